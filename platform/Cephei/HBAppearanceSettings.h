@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/Object.h"
+#include "platform/UIKit/UIColor.h"
+
+namespace platform {
+
+/// When a page shows its title large; the numbers are Cephei's.
+enum class HBAppearanceSettingsLargeTitleStyle : unsigned long {
+  RootOnly = 0,
+  Always = 1,
+  Never = 2,
+};
+
+/// The look of a settings page.
+class HBAppearanceSettings : public Object {
+ public:
+  /// A new object in which nothing is set.
+  static HBAppearanceSettings init();
+
+  void setTintColor(const UIColor& color);
+  void setNavigationBarTitleColor(const UIColor& color);
+  void setNavigationBarTintColor(const UIColor& color);
+  void setTableViewCellSeparatorColor(const UIColor& color);
+  void setNavigationBarBackgroundColor(const UIColor& color);
+  void setTableViewCellTextColor(const UIColor& color);
+  void setTranslucentNavigationBar(bool translucent);
+  void setLargeTitleStyle(HBAppearanceSettingsLargeTitleStyle style);
+};
+
+}  // namespace platform

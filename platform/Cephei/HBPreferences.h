@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/Foundation/NSString.h"
+#include "platform/Object.h"
+
+namespace platform {
+
+/// The platform's preferences service, for one domain.
+class HBPreferences : public Object {
+ public:
+  static HBPreferences initWithIdentifier(const NSString& identifier);
+
+  /// Stores the value in the domain, which is made when there is none yet; a value that is none
+  /// removes the key.
+  void setObject(const Object& object, const NSString& key);
+};
+
+}  // namespace platform

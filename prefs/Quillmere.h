@@ -1,0 +1,45 @@
+#pragma once
+
+/// What the whole bundle shares: names, paths, the keys of the preferences and their defaults.
+/// Each stands here and nowhere else; rows and footers are made from it.
+namespace quillmere {
+
+inline constexpr const char* productName = "Quillmere";
+inline constexpr const char* bundlePath = "/Library/PreferenceBundles/Quillmere.bundle";
+
+/// The preferences domain, and the Darwin notification that announces a change of it.
+inline constexpr const char* domain = "com.orvalen.quillmere";
+inline constexpr const char* prefsChanged = "com.orvalen.quillmere.prefs-changed";
+
+/// The accent colour as rows carry it in text: red, green and blue in hexadecimal, no sign.
+inline constexpr const char* accentHex = "f69240";
+
+/// A preference: the key in the domain and the value that an absent key stands for.
+template <class Value>
+struct Setting {
+  const char* key;
+  Value defaultValue;
+};
+
+/// Values of `colorMode`.
+enum ColorMode : int { originalColors = 1, customColor = 2 };
+
+namespace settings {
+
+inline constexpr Setting<int> colorMode{"colorMode", originalColors};
+inline constexpr Setting<const char*> tintColor{"tintColor", accentHex};
+
+inline constexpr Setting<bool> clockEnabled{"clockEnabled", true};
+inline constexpr Setting<bool> clockLoopAnimation{"clockLoopAnimation", true};
+inline constexpr Setting<int> clockDigitSize{"clockDigitSize", 75};
+inline constexpr Setting<int> clockVerticalAlignment{"clockVerticalAlignment", 0};
+inline constexpr Setting<int> clockDigitsSpacing{"clockDigitsSpacing", -20};
+inline constexpr Setting<int> colonHeight{"colonHeight", 50};
+
+inline constexpr Setting<bool> flashEnabled{"flashEnabled", true};
+inline constexpr Setting<bool> cameraEnabled{"cameraEnabled", true};
+inline constexpr Setting<bool> quickActionsLoopAnimation{"quickActionsLoopAnimation", true};
+inline constexpr Setting<int> quickActionsSize{"quickActionsSize", 75};
+
+}  // namespace settings
+}  // namespace quillmere
