@@ -1,0 +1,21 @@
+import { element } from '../element.js';
+
+export function create() {
+  return { element: element('ul', { class: 'row credits' }) };
+}
+
+export function update(view, node) {
+  view.element.style.setProperty('--height', `${node.height}px`);
+  view.element.style.setProperty('--tint', node.tint);
+  view.element.replaceChildren(...node.people.map(column));
+}
+
+function column({ name, detail, url }) {
+  const lines = [
+    element('span', { class: 'name' }, name),
+    element('span', { class: 'detail' }, detail),
+  ];
+  const isWeb = /^https?:/.test(url ?? '');
+  const attributes = isWeb ? { href: url, target: '_blank', rel: 'noopener noreferrer' } : {};
+  return element('li', {}, element(isWeb ? 'a' : 'div', { class: 'person', ...attributes }, ...lines));
+}

@@ -1,0 +1,104 @@
+import { element } from '../element.js';
+
+/** How many steps a key moves the knob. */
+const strides = {
+  ArrowLeft: -1, ArrowDown: -1, ArrowRight: 1, ArrowUp: 1, PageDown: -10, PageUp: 10,
+  Home: -Infinity, End: Infinity,
+};
+
+export function create(node, context) {
+  const range = element('ion-range', { 'aria-label': node.label });
+  const field = element('input', {
+    class: 'value', type: 'text', maxlength: 32, autocomplete: 'off', enterkeyhint: 'done',
+  });
+  const row = element('div', { class: 'row slider' }, range, field);
+  const view = { element: row, range, field, node, moving: false, told: null, footer: null };
+  view.describe = (footer) => {
+    view.footer = footer;
+    nameKnob(view);
+  };
+  listenToRange(view, context);
+  listenToField(view, context);
+  return view;
+}
+
+export function update(view, node) {
+  const { range, field } = view;
+  view.node = node;
+  view.element.dataset.key = node.key;
+  Object.assign(range, { min: node.min, max: node.max, step: node.step ?? hundredth(node) / 10 });
+  range.disabled = field.disabled = node.enabled === false;
+  field.hidden = !node.showValue;
+  field.ariaLabel = `${node.label} value`;
+  // Phones offer no minus sign on their number pads.
+  field.inputMode = node.min < 0 ? 'text' : 'decimal';
+  nameKnob(view);
+  if (view.moving) return;
+  view.told = node.value;
+  range.value = node.value ?? node.min;
+  show(view, node.value);
+}
+
+const hundredth = ({ min, max }) => (max - min) / 100;
+const written = (value) => (value == null ? '' : String(Number(value.toFixed(2))));
+
+/** What is being typed is not written over. */
+function show({ field }, value) {
+  if (document.activeElement !== field) field.value = written(value);
+}
+
+/** The kit hides the element that is the slider; what it is called has to be told to it there. */
+function nameKnob({ range, node, footer }) {
+  const knob = range.shadowRoot.querySelector('[role=slider]');
+  if (!knob) return;
+  knob.ariaLabel = node.label;
+  knob.ariaDescription = footer?.textContent ?? null;
+}
+
+function tell(view, context) {
+  const { value } = view.range;
+  if (value === view.told) return;
+  view.told = value;
+  context.touch({ kind: 'slide', value });
+}
+
+function listenToRange(view, context) {
+  const { range } = view;
+  new MutationObserver(() => nameKnob(view)).observe(range.shadowRoot, { childList: true });
+  range.addEventListener('ionKnobMoveStart', () => (view.moving = true));
+  range.addEventListener('ionKnobMoveEnd', () => (view.moving = false));
+  range.addEventListener('ionInput', () => show(view, range.value));
+  range.addEventListener('ionChange', () => tell(view, context));
+  range.addEventListener('keydown', (event) => step(event, view, context), { capture: true });
+}
+
+/** The kit knows only arrow keys, and none of them for a slider without steps. */
+function step(event, view, context) {
+  const stride = strides[event.key];
+  if (stride === undefined) return;
+  event.preventDefault();
+  event.stopPropagation();
+  const { min, max, step: size } = view.node;
+  const moved = view.range.value + stride * (size ?? hundredth(view.node));
+  view.range.value = Number(Math.min(max, Math.max(min, moved)).toFixed(6));
+  tell(view, context);
+}
+
+function listenToField(view, context) {
+  const { field } = view;
+  let before = '';
+  const commit = () => {
+    if (field.value === before) return;
+    before = field.value;
+    context.touch({ kind: 'type', text: field.value });
+  };
+  field.addEventListener('focus', () => {
+    before = field.value;
+    field.select();
+  });
+  field.addEventListener('blur', commit);
+  field.addEventListener('keydown', ({ key }) => {
+    if (key === 'Escape') field.value = before;
+    if (key === 'Enter') field.blur();
+  });
+}

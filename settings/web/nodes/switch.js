@@ -1,0 +1,19 @@
+import { element, setText } from '../element.js';
+import { describe } from '../row.js';
+
+export function create(node, context) {
+  const label = element('span', { class: 'label' });
+  const toggle = element('ion-toggle',
+    { class: 'row switch', justify: 'space-between', 'aria-label': node.label }, label);
+  toggle.addEventListener('ionChange', ({ detail }) =>
+    context.touch({ kind: 'toggle', on: detail.checked }));
+  return { element: toggle, label, describe: (footer) => describe(toggle, footer) };
+}
+
+export function update(view, node) {
+  setText(view.label, node.label);
+  view.element.ariaLabel = node.label;
+  view.element.dataset.key = node.key;
+  view.element.checked = node.on;
+  view.element.disabled = node.enabled === false;
+}

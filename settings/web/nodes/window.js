@@ -1,0 +1,53 @@
+import { element } from '../element.js';
+import { slide } from '../transition.js';
+
+export function create() {
+  return { element: element('main', { class: 'window' }), ids: [], animations: [] };
+}
+
+export function update(view, node, context) {
+  const before = view.ids;
+  view.ids = node.children;
+  const shown = before.at(-1);
+  const wanted = node.children.at(-1);
+  if (shown === wanted) return settle(view, context);
+  const leaving = view.top;
+  const coming = (view.top = context.view(wanted));
+  for (const animation of view.animations) animation.cancel();
+  if (!leaving || node.children.length === before.length) return settle(view, context);
+  move(view, context, leaving, coming, node.children.length > before.length);
+}
+
+function move(view, context, leaving, coming, isPush) {
+  if (isPush) leaving.leave();
+  reveal(view, leaving, coming, isPush);
+  view.animations = isPush ? slide(coming.element, leaving.element, true)
+                           : slide(leaving.element, coming.element, false);
+  const mine = view.animations;
+  const end = () => view.animations === mine && settle(view, context);
+  if (mine.length === 0) end();
+  else Promise.all(mine.map(({ finished }) => finished)).then(end, () => {});
+  if (isPush) coming.enter();
+  else coming.comeBack();
+}
+
+/** Both pages are in place while one slides over the other, and only the coming one is live. */
+function reveal(view, leaving, coming, isPush) {
+  if (isPush) view.element.append(coming.element);
+  else view.element.insertBefore(coming.element, leaving.element);
+  for (const page of [leaving, coming]) page.element.classList.remove('covered');
+  leaving.element.inert = true;
+  coming.element.inert = false;
+}
+
+/** Leaves only the pages of the stack, and of those only the top one to be seen and touched. */
+function settle(view, context) {
+  for (const animation of view.animations) animation.cancel();
+  view.animations = [];
+  view.top ??= context.view(view.ids.at(-1));
+  context.place(view.element, view.ids);
+  for (const page of view.element.children) {
+    page.inert = page !== view.top.element;
+    page.classList.toggle('covered', page.inert);
+  }
+}

@@ -1,0 +1,105 @@
+import { kinds } from './nodes/kinds.js';
+
+const root = 'window';
+
+/**
+ * What a kind of node hands back from `create`: its element, and for a control how to tie the
+ * group's footer to it.
+ * @typedef {{element: HTMLElement, describe?: function(HTMLElement?): void}} View
+ */
+
+/** Keeps the elements of the page in step with the nodes that were sent. */
+export class Tree {
+  #stage;
+  #send;
+  #nodes = new Map();
+  #views = new Map();
+  #touched = new Set();
+
+  /**
+   * @param {HTMLElement} stage where the window goes
+   * @param {function(Object): void} send takes a touch
+   */
+  constructor(stage, send) {
+    this.#stage = stage;
+    this.#send = send;
+  }
+
+  /** @param {{kind: string, nodes?: Object, removed?: string[], reason?: string}} message */
+  receive({ kind, nodes = {}, removed = [], reason }) {
+    if (kind === 'refused') console.warn(`Touch refused: ${reason}`);
+    if (kind === 'screen') removed = [...this.#nodes.keys()].filter((id) => !(id in nodes));
+    for (const [id, node] of Object.entries(nodes)) this.#nodes.set(id, node);
+    for (const id of removed) this.#forget(id);
+    this.#render(new Set([...Object.keys(nodes), ...this.#touched]));
+    this.#touched.clear();
+  }
+
+  #forget(id) {
+    this.#nodes.delete(id);
+    this.#views.delete(id);
+  }
+
+  /** The window comes last: it moves pages that must be complete by then. */
+  #render(ids) {
+    const windowChanged = ids.delete(root);
+    for (const id of ids) if (this.#views.has(id)) this.#refresh(id);
+    if (!windowChanged) return;
+    if (this.#views.has(root)) this.#refresh(root);
+    else this.#stage.append(this.#view(root).element);
+  }
+
+  #refresh(id) {
+    const old = this.#views.get(id);
+    const view = this.#view(id);
+    if (view === old) kinds[view.kind].update(view, this.#nodes.get(id), this.#context(id));
+    else old.element.replaceWith(view.element);
+  }
+
+  /** @returns {View} the view of a node, made on first sight and when the node changed its kind */
+  #view(id) {
+    const node = this.#nodes.get(id);
+    const known = this.#views.get(id);
+    if (known?.kind === node.kind) return known;
+    const context = this.#context(id);
+    const view = { kind: node.kind, ...kinds[node.kind].create(node, context) };
+    view.element.dataset.node = id;
+    this.#views.set(id, view);
+    kinds[node.kind].update(view, node, context);
+    return view;
+  }
+
+  /** What a kind may ask of the tree. */
+  #context(id) {
+    return {
+      id,
+      touch: (touch) => this.#touch({ ...touch, id }),
+      view: (other) => this.#view(other),
+      place: (container, ids) => this.#place(container, ids),
+      isTop: () => this.#nodes.get(root).children.at(-1) === id,
+    };
+  }
+
+  /** The answer to a touch puts its control right, also when it left the node as it was. */
+  #touch(touch) {
+    this.#touched.add(touch.id);
+    this.#send(touch);
+  }
+
+  /** Makes the children of a container those of the given ids, moving only what is out of place. */
+  #place(container, ids) {
+    const wanted = ids.filter((id) => this.#isDrawable(id)).map((id) => this.#view(id).element);
+    for (const child of [...container.children]) if (!wanted.includes(child)) child.remove();
+    wanted.forEach((child, index) => {
+      const there = container.children[index];
+      if (there !== child) container.insertBefore(child, there ?? null);
+    });
+  }
+
+  #isDrawable(id) {
+    const kind = this.#nodes.get(id)?.kind;
+    if (Object.hasOwn(kinds, kind ?? '')) return true;
+    console.warn(`Nothing draws ${id} of kind ${kind}`);
+    return false;
+  }
+}
