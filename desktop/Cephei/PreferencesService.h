@@ -1,0 +1,42 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "plist/Value.h"
+
+namespace desktop {
+
+class Phone;
+
+/// The stand-in for the platform's preferences service. It keeps each domain in that domain's
+/// file and nothing anywhere else, so it sees at once what others write there.
+///
+/// A file that is there but cannot be read is never touched: changes are kept beside it, in
+/// "FILE.pending", count when values are asked for, and are merged into the file as soon as it is
+/// readable again or gone.
+class PreferencesService {
+ public:
+  explicit PreferencesService(Phone& phone) : phone_(phone) {}
+
+  /// The domain's value for the key; none when it has none.
+  std::optional<plist::Value> value(const std::string& domain, std::string_view key) const;
+
+  /// Stores the value, or removes the key for none. The file is made when there is none yet, and
+  /// is not written when it holds the value already. A failure is reported to the desktop only.
+  void set(const std::string& domain, const std::string& key,
+           const std::optional<plist::Value>& value) const;
+
+  /// Merges what is kept beside the domain's file, if it can be merged by now.
+  void settle(const std::string& domain) const;
+
+ private:
+  struct Domain;
+
+  Domain load(const std::string& domain) const;
+
+  Phone& phone_;
+};
+
+}  // namespace desktop

@@ -1,0 +1,28 @@
+#include "desktop/Foundation/PropertyListFile.h"
+
+#include <system_error>
+
+namespace desktop {
+
+std::optional<PropertyListFile> readPropertyList(const PhoneFolder& folder, std::string_view path) {
+  try {
+    std::optional<std::string> bytes = folder.read(path);
+    if (!bytes) return std::nullopt;
+    plist::Document document = plist::read(*std::move(bytes));
+    if (const plist::Dictionary* dictionary = document.root.dictionary()) {
+      return PropertyListFile{*dictionary, document.form};
+    }
+    throw UnreadableFile("its root is not a dictionary");
+  } catch (const plist::Unreadable& unreadable) {
+    throw UnreadableFile(unreadable.what());
+  } catch (const std::system_error& failure) {
+    throw UnreadableFile(failure.code().message());
+  }
+}
+
+void writePropertyList(const PhoneFolder& folder, std::string_view path,
+                       const PropertyListFile& file) {
+  folder.replace(path, plist::write(plist::Value(file.dictionary), file.form));
+}
+
+}  // namespace desktop

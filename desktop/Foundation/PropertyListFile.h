@@ -1,0 +1,33 @@
+#pragma once
+
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "desktop/PhoneFolder.h"
+#include "plist/Document.h"
+
+namespace desktop {
+
+/// A property-list file whose root is a dictionary.
+struct PropertyListFile {
+  plist::Dictionary dictionary;
+  plist::Form form = plist::Form::Binary;
+};
+
+/// There is something at the path, but not a dictionary that can be read; `what()` says why.
+class UnreadableFile : public std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
+/// The dictionary at the phone's `path`; none when, and only when, there is no file. Throws
+/// `UnreadableFile` for everything else.
+std::optional<PropertyListFile> readPropertyList(const PhoneFolder& folder, std::string_view path);
+
+/// Replaces the file, in its form (in binary where XML cannot carry a value exactly). Throws
+/// `std::system_error`.
+void writePropertyList(const PhoneFolder& folder, std::string_view path,
+                       const PropertyListFile& file);
+
+}  // namespace desktop

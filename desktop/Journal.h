@@ -1,0 +1,47 @@
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "platform/Object.h"
+
+namespace desktop {
+
+/// One argument of a recorded message.
+class Argument {
+ public:
+  Argument(const platform::Object& object) : value_(&object) {}
+  Argument(bool yes) : value_(yes) {}
+  Argument(double number) : value_(number) {}
+  /// The name of a selector, a class or a constant: written as it is.
+  Argument(std::string_view name) : value_(name) {}
+  Argument(const char* name) : value_(std::string_view(name)) {}
+
+  std::string text() const;
+
+ private:
+  std::variant<const platform::Object*, bool, double, std::string_view> value_;
+};
+
+/// What the bundle asked of the platform, in order. Silent until it is started, so that it costs
+/// nothing in everyday use.
+class Journal {
+ public:
+  void start() { recording_ = true; }
+  void clear() { lines_.clear(); }
+
+  /// One line a message, as in `NSMutableDictionary setObject:1 forKey:"colorMode"`.
+  const std::vector<std::string>& lines() const { return lines_; }
+
+  void record(std::string_view receiver, std::string_view selector,
+              std::initializer_list<Argument> arguments);
+
+ private:
+  bool recording_ = false;
+  std::vector<std::string> lines_;
+};
+
+}  // namespace desktop

@@ -1,0 +1,31 @@
+#include "desktop/Phone.h"
+
+#include <cassert>
+#include <iostream>
+
+namespace desktop {
+
+namespace {
+
+Phone* phoneThatIsOn = nullptr;
+
+void reportOnStandardError(const std::string& line) {
+  std::cerr << "quillmere-settings: " << line << std::endl;
+}
+
+}  // namespace
+
+Phone::Phone(const std::filesystem::path& host)
+    : report(&reportOnStandardError), folder(host), preferences(*this) {
+  assert(!phoneThatIsOn);
+  phoneThatIsOn = this;
+}
+
+Phone::~Phone() { phoneThatIsOn = nullptr; }
+
+Phone& Phone::current() {
+  assert(phoneThatIsOn);
+  return *phoneThatIsOn;
+}
+
+}  // namespace desktop

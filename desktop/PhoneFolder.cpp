@@ -1,0 +1,185 @@
+#include "desktop/PhoneFolder.h"
+
+#include <cerrno>
+#include <cstdint>
+#include <dirent.h>
+#include <fcntl.h>
+#include <linux/openat2.h>
+#include <memory>
+#include <sys/random.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <system_error>
+
+namespace desktop {
+
+namespace {
+
+constexpr std::string_view asideMark = ".aside-";
+
+[[noreturn]] void fail(std::string_view path, int error = errno) {
+  throw std::system_error(error, std::generic_category(), std::string(path));
+}
+
+void check(int result, std::string_view path) {
+  if (result < 0) fail(path);
+}
+
+std::string_view parentOf(std::string_view path) { return path.substr(0, path.rfind('/') + 1); }
+std::string nameIn(std::string_view path) { return std::string(path.substr(path.rfind('/') + 1)); }
+
+int openInside(const Descriptor& root, std::string_view path, int flags) {
+  open_how how{};
+  how.flags = static_cast<decltype(how.flags)>(flags | O_CLOEXEC);
+  how.resolve = RESOLVE_IN_ROOT | RESOLVE_NO_MAGICLINKS;
+  const std::string terminated(path);
+  long result;
+  do {  // The kernel asks for another try when a folder was renamed while it walked the path.
+    result = syscall(SYS_openat2, root.number(), terminated.c_str(), &how, sizeof how);
+  } while (result < 0 && (errno == EAGAIN || errno == EINTR));
+  return static_cast<int>(result);
+}
+
+std::string readAll(const Descriptor& file, std::size_t size, std::string_view path) {
+  std::string bytes(size, '\0');
+  std::size_t filled = 0;
+  while (filled < bytes.size()) {
+    const ssize_t got = ::read(file.number(), bytes.data() + filled, bytes.size() - filled);
+    if (got < 0 && errno == EINTR) continue;
+    check(static_cast<int>(got < 0 ? -1 : 0), path);
+    if (got == 0) break;
+    filled += static_cast<std::size_t>(got);
+  }
+  bytes.resize(filled);
+  return bytes;
+}
+
+void writeAll(const Descriptor& file, std::string_view bytes, std::string_view path) {
+  while (!bytes.empty()) {
+    const ssize_t put = ::write(file.number(), bytes.data(), bytes.size());
+    if (put < 0 && errno == EINTR) continue;
+    check(static_cast<int>(put < 0 ? -1 : 0), path);
+    bytes.remove_prefix(static_cast<std::size_t>(put));
+  }
+}
+
+std::string asideName(const std::string& name) {
+  std::uint64_t random = 0;
+  check(static_cast<int>(getrandom(&random, sizeof random, 0)), name);
+  return "." + name + std::string(asideMark) + std::to_string(random);
+}
+
+mode_t modeOf(const Descriptor& folder, const std::string& name) {
+  struct stat status {};
+  const bool stands = fstatat(folder.number(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0;
+  return stands && S_ISREG(status.st_mode) ? status.st_mode & 07777 : 0644;
+}
+
+}  // namespace
+
+PhoneFolder::PhoneFolder(const std::filesystem::path& host)
+    : root_(::open(host.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)) {
+  check(root_.number(), host.native());
+  open("/", O_PATH | O_DIRECTORY);
+}
+
+Descriptor PhoneFolder::open(std::string_view path, int flags) const {
+  const int number = openInside(root_, path, flags);
+  check(number, path);
+  return Descriptor(number);
+}
+
+Descriptor PhoneFolder::openParent(std::string_view path) const {
+  return open(parentOf(path), O_RDONLY | O_DIRECTORY);
+}
+
+std::optional<std::string> PhoneFolder::read(std::string_view path) const {
+  // O_NONBLOCK: opening a FIFO that stands in the file's place must not wait for a writer.
+  const int number = openInside(root_, path, O_RDONLY | O_NONBLOCK | O_NOCTTY);
+  if (number < 0 && errno == ENOENT) return std::nullopt;
+  check(number, path);
+  const Descriptor file(number);
+  struct stat status {};
+  check(fstat(number, &status), path);
+  if (S_ISDIR(status.st_mode)) fail(path, EISDIR);
+  if (!S_ISREG(status.st_mode)) fail(path, EINVAL);
+  if (static_cast<std::uint64_t>(status.st_size) > maximumFileSize) fail(path, EFBIG);
+  return readAll(file, static_cast<std::size_t>(status.st_size), path);
+}
+
+void PhoneFolder::replace(std::string_view path, std::string_view bytes) const {
+  const Descriptor folder = openParent(path);
+  const std::string name = nameIn(path);
+  const std::string aside = asideName(name);
+  const int number = openat(folder.number(), aside.c_str(),
+                            O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
+  check(number, path);
+  const Descriptor file(number);
+  try {
+    check(fchmod(number, modeOf(folder, name)), path);
+    writeAll(file, bytes, path);
+    check(fsync(number), path);
+    check(renameat(folder.number(), aside.c_str(), folder.number(), name.c_str()), path);
+  } catch (...) {
+    unlinkat(folder.number(), aside.c_str(), 0);
+    throw;
+  }
+  check(fsync(folder.number()), path);
+}
+
+void PhoneFolder::remove(std::string_view path) const {
+  const Descriptor folder = openParent(path);
+  if (unlinkat(folder.number(), nameIn(path).c_str(), 0) < 0) {
+    if (errno == ENOENT) return;
+    fail(path);
+  }
+  check(fsync(folder.number()), path);
+}
+
+bool PhoneFolder::exists(std::string_view path) const {
+  const int number = openInside(root_, path, O_PATH);
+  if (number >= 0) ::close(number);
+  return number >= 0;
+}
+
+std::vector<std::string> PhoneFolder::list(std::string_view path) const {
+  Descriptor folder = open(path, O_RDONLY | O_DIRECTORY);
+  const std::unique_ptr<DIR, int (*)(DIR*)> entries(fdopendir(folder.number()), &closedir);
+  if (!entries) fail(path);
+  folder.release();
+  std::vector<std::string> names;
+  while (const dirent* entry = readdir(entries.get())) {
+    const std::string_view name = entry->d_name;
+    if (name != "." && name != "..") names.emplace_back(name);
+  }
+  return names;
+}
+
+void PhoneFolder::makeFolders(std::string_view path) const {
+  for (std::size_t end = path.find('/', 1);; end = path.find('/', end + 1)) {
+    const std::string_view folder = path.substr(0, end);
+    if (!exists(folder)) {
+      const Descriptor parent = openParent(folder);
+      check(mkdirat(parent.number(), nameIn(folder).c_str(), 0755), folder);
+    }
+    if (end == std::string_view::npos) break;
+  }
+}
+
+void PhoneFolder::makeLink(std::string_view path, const std::string& target) const {
+  const Descriptor folder = openParent(path);
+  if (symlinkat(target.c_str(), folder.number(), nameIn(path).c_str()) < 0 && errno != EEXIST) {
+    fail(path);
+  }
+}
+
+void PhoneFolder::sweep(std::string_view path) const {
+  const Descriptor folder = open(path, O_RDONLY | O_DIRECTORY);
+  for (const std::string& name : list(path)) {
+    if (name.starts_with('.') && name.find(asideMark) != std::string::npos) {
+      unlinkat(folder.number(), name.c_str(), 0);
+    }
+  }
+}
+
+}  // namespace desktop

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "desktop/Descriptor.h"
+
+namespace desktop {
+
+/// The stand-in phone's file system: a folder of this computer that is laid out like a phone's.
+/// Every path given here is the phone's, absolute; it is resolved inside the folder by the kernel
+/// (`openat2` with `RESOLVE_IN_ROOT`, openat2(2)), so that no symlink, absolute ones included,
+/// leads out of it. Failures are thrown as `std::system_error`.
+class PhoneFolder {
+ public:
+  /// The most that `read` takes from one file, in bytes.
+  static constexpr std::size_t maximumFileSize = 16 << 20;
+
+  /// Throws when `host` is not a folder that can be opened, or the kernel has no `openat2`.
+  explicit PhoneFolder(const std::filesystem::path& host);
+
+  /// The bytes of a regular file; none when, and only when, there is no such file. A folder, a
+  /// FIFO, a device, a file that may not be read or one over `maximumFileSize` throws.
+  std::optional<std::string> read(std::string_view path) const;
+
+  /// Makes the file hold `bytes`, durably and at once: they are written aside, synced and renamed
+  /// into place, and the folder is synced. A replaced file's mode is kept, a new one's is 0644.
+  void replace(std::string_view path, std::string_view bytes) const;
+
+  /// Deletes a file, durably; nothing happens when there is none.
+  void remove(std::string_view path) const;
+
+  bool exists(std::string_view path) const;
+
+  /// The names in a folder, in the folder's own order, without "." and "..".
+  std::vector<std::string> list(std::string_view path) const;
+
+  /// Makes the folder and those above it, where they are missing.
+  void makeFolders(std::string_view path) const;
+
+  /// Makes a symbolic link at `path`, unless something stands there.
+  void makeLink(std::string_view path, const std::string& target) const;
+
+  /// Deletes what an interrupted `replace` left in a folder.
+  void sweep(std::string_view path) const;
+
+ private:
+  Descriptor open(std::string_view path, int flags) const;
+  Descriptor openParent(std::string_view path) const;
+
+  Descriptor root_;
+};
+
+}  // namespace desktop

@@ -1,0 +1,134 @@
+#include "desktop/Preferences/Cells.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+#include "desktop/Foundation/ArrayBody.h"
+#include "desktop/Foundation/Values.h"
+#include "desktop/ObjectiveC/ClassBody.h"
+#include "desktop/Phone.h"
+#include "desktop/Preferences/SpecifierBody.h"
+#include "desktop/UIKit/ControllerState.h"
+#include "desktop/UIKit/NavigationController.h"
+#include "platform/Preferences/PSListController.h"
+
+namespace desktop {
+
+using platform::PSCellType;
+
+namespace {
+
+const std::vector<platform::Object>& objectsOf(const platform::NSArray& array) {
+  static const std::vector<platform::Object> nothing;
+  const auto* body = bodyAs<ArrayBody>(array);
+  return body ? body->objects : nothing;
+}
+
+}  // namespace
+
+SwitchCell::SwitchCell(platform::PSSpecifier specifier)
+    : Cell(std::move(specifier)), on_(boolValue(performGetter())) {}
+
+void SwitchCell::toggle(bool on) {
+  on_ = on;
+  performSetterWithValue(box(plist::Value(on)));
+}
+
+SliderCell::SliderCell(platform::PSSpecifier specifier)
+    : Cell(std::move(specifier)),
+      min_(doubleValue(row().property("min"))),
+      max_(row().property("max") ? doubleValue(row().property("max")) : 1),
+      value_(doubleValue(performGetter())) {
+  max_ = std::max(min_, max_);
+  value_ = std::isnan(value_) ? min_ : std::clamp(value_, min_, max_);
+}
+
+std::optional<double> SliderCell::step() const {
+  const double segments = doubleValue(row().property("segmentCount"));
+  if (!flag("isSegmented") || !(segments >= 1)) return std::nullopt;
+  return (max_ - min_) / segments;
+}
+
+bool SliderCell::showsValue() const { return flag("showValue"); }
+
+bool SliderCell::slide(double value) {
+  if (std::isnan(value)) return false;
+  value = std::clamp(value, min_, max_);
+  if (const auto stop = step()) value = min_ + std::round((value - min_) / *stop) * *stop;
+  // The platform's sliders hand over a single-width number, also at whole stops.
+  const auto number = static_cast<float>(value);
+  value_ = static_cast<double>(number);
+  performSetterWithValue(box(plist::Value::real(number)));
+  return true;
+}
+
+bool SliderCell::type(std::string_view text) {
+  const auto isSpace = [](char letter) { return letter == ' ' || letter == '\t'; };
+  while (!text.empty() && isSpace(text.front())) text.remove_prefix(1);
+  while (!text.empty() && isSpace(text.back())) text.remove_suffix(1);
+  if (text.starts_with('+')) text.remove_prefix(1);
+  double value = 0;
+  const char* const end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, value, std::chars_format::fixed);
+  return error == std::errc() && stop == end && slide(value);
+}
+
+SegmentCell::SegmentCell(platform::PSSpecifier specifier) : Cell(std::move(specifier)) {
+  const platform::Object stored = performGetter();
+  const auto& values = objectsOf(row().values);
+  const auto found = std::ranges::find_if(
+      values, [&](const platform::Object& value) { return value.isEqual(stored); });
+  if (found != values.end()) selected_ = static_cast<std::size_t>(found - values.begin());
+}
+
+std::vector<std::string> SegmentCell::titles() const {
+  std::vector<std::string> titles;
+  for (const platform::Object& title : objectsOf(row().titles)) titles.push_back(textOf(title));
+  return titles;
+}
+
+bool SegmentCell::select(std::size_t index) {
+  const auto& values = objectsOf(row().values);
+  if (index >= values.size()) return false;
+  selected_ = index;
+  performSetterWithValue(values[index]);
+  return true;
+}
+
+bool ActionCell::isLink() const { return row().cell == PSCellType::PSLinkCell; }
+
+void ActionCell::tap() const {
+  if (!row().action.empty()) perform(row().action);
+  const std::string detail = nameOfClass(row().detail);
+  if (detail.empty()) return;
+  auto controller = makeController(detail);
+  if (!controller) {
+    Phone::current().report("there is no class " + detail + " to open");
+    return;
+  }
+  stateOf(*controller).title = label();
+  if (controller->init()) stateOf(*row().target).navigation->push(std::move(controller));
+}
+
+AnyCell makeCell(const platform::PSSpecifier& specifier) {
+  const auto& row = *bodyAs<SpecifierBody>(specifier);
+  const std::string cellClass = nameOfClass(row.property("cellClass"));
+  if (cellClass == "CSColorDisplayCell") return ColorCell(specifier);
+  if (cellClass == "OrvalenTripleCell") return CreditsCell(specifier);
+  switch (row.cell) {
+    case PSCellType::PSSwitchCell:
+      return SwitchCell(specifier);
+    case PSCellType::PSSliderCell:
+      return SliderCell(specifier);
+    case PSCellType::PSSegmentCell:
+      return SegmentCell(specifier);
+    case PSCellType::PSLinkCell:
+    case PSCellType::PSButtonCell:
+      return ActionCell(specifier);
+    default:
+      return TextCell(specifier);
+  }
+}
+
+}  // namespace desktop

@@ -1,0 +1,57 @@
+#include "desktop/SettingsApplication.h"
+
+#include <stdexcept>
+
+#include "desktop/Foundation/PropertyListFile.h"
+#include "desktop/Phone.h"
+#include "desktop/UIKit/ControllerState.h"
+
+namespace desktop {
+
+namespace {
+
+constexpr const char* loaderFolder = "/Library/PreferenceLoader/Preferences";
+
+std::string textAt(const plist::Dictionary& dictionary, std::string_view key) {
+  const plist::Value* value = dictionary.find(key);
+  return std::string(value ? value->string().value_or("") : "");
+}
+
+plist::Dictionary dictionaryAt(const std::string& path) {
+  try {
+    const auto file = readPropertyList(Phone::current().folder, path);
+    return file ? file->dictionary : plist::Dictionary();
+  } catch (const UnreadableFile& reason) {
+    Phone::current().report(path + " cannot be read: " + reason.what());
+    return {};
+  }
+}
+
+/// The name of the bundle whose loader entry has this label.
+std::string bundleLabelled(const std::string& label) {
+  for (const std::string& name : Phone::current().folder.list(loaderFolder)) {
+    const plist::Dictionary file = dictionaryAt(std::string(loaderFolder) + "/" + name);
+    const plist::Value* entry = file.find("entry");
+    if (!entry || !entry->dictionary() || textAt(*entry->dictionary(), "label") != label) continue;
+    return textAt(*entry->dictionary(), "bundle");
+  }
+  throw std::runtime_error("no entry in " + std::string(loaderFolder) + " is labelled " + label);
+}
+
+std::string principalClassOf(const std::string& bundle) {
+  return textAt(dictionaryAt("/Library/PreferenceBundles/" + bundle + ".bundle/Info.plist"),
+                "NSPrincipalClass");
+}
+
+}  // namespace
+
+SettingsApplication::SettingsApplication(const std::string& label) {
+  const std::string name = principalClassOf(bundleLabelled(label));
+  auto controller = makeController(name);
+  if (!controller) throw std::runtime_error("the bundle has no class \"" + name + "\"");
+  stateOf(*controller).title = label;
+  if (!controller->init()) throw std::runtime_error(name + " could not be initialised");
+  navigation.push(std::move(controller));
+}
+
+}  // namespace desktop

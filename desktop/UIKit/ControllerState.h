@@ -1,0 +1,36 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "platform/Cephei/HBAppearanceSettings.h"
+#include "platform/Foundation/NSArray.h"
+#include "platform/UIKit/UIViewController.h"
+
+namespace desktop {
+
+class NavigationController;
+
+/// The platform's side of a controller.
+struct ControllerState {
+  /// The class that the controller was made as.
+  std::string className;
+  /// The title of its navigation item.
+  std::string title;
+  /// The list controller's `_specifiers`.
+  platform::NSArray specifiers;
+  platform::HBAppearanceSettings appearance;
+  /// The stack that the controller is on; null before it is pushed.
+  NavigationController* navigation = nullptr;
+  /// Makes the superclass's `init` answer nil.
+  bool refusesInit = false;
+};
+
+/// The platform's side of this controller.
+ControllerState& stateOf(const platform::UIViewController& controller);
+
+/// A new controller of one of the bundle's classes, not yet initialised; null when there is no
+/// such class.
+std::unique_ptr<platform::UIViewController> makeController(const std::string& className);
+
+}  // namespace desktop

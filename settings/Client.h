@@ -1,0 +1,41 @@
+#pragma once
+
+#include <boost/asio/awaitable.hpp>
+#include <boost/beast/core/tcp_stream.hpp>
+#include <boost/beast/websocket/stream.hpp>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "settings/Http.h"
+#include "settings/Tree.h"
+
+namespace settings {
+
+/// One open page, at the other end of a WebSocket.
+class Client : public std::enable_shared_from_this<Client> {
+ public:
+  explicit Client(boost::beast::tcp_stream stream) : socket_(std::move(stream)) {}
+
+  /// Accepts the handshake, then hands on each message until the page goes away.
+  boost::asio::awaitable<void> run(Request handshake,
+                                   std::function<void(std::string_view)> onMessage);
+
+  /// Brings the page to `tree`: whole at first, then only what has changed.
+  void show(const Tree& tree);
+
+  void refuse(const std::string& reason);
+
+ private:
+  void send(const nlohmann::json& message);
+  void startWriting();
+  static boost::asio::awaitable<void> write(std::shared_ptr<Client> self);
+
+  boost::beast::websocket::stream<boost::beast::tcp_stream> socket_;
+  Tree shown_;
+  std::deque<std::string> outgoing_;
+};
+
+}  // namespace settings

@@ -1,0 +1,69 @@
+#include "settings/PhoneSetup.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <stdexcept>
+#include <unistd.h>
+
+#include "settings/Asset.h"
+
+namespace settings {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* folders[] = {
+    "/Library/PreferenceBundles/Quillmere.bundle",
+    "/Library/PreferenceLoader/Preferences",
+    "/Library/Lotties/Quillmere",
+    "/var/mobile/Library/Preferences",
+};
+
+void install(const desktop::PhoneFolder& folder, std::span<const Asset> files) {
+  for (const Asset& file : files) {
+    if (folder.read(file.path) != file.bytes) folder.replace(file.path, file.bytes);
+  }
+}
+
+const char* environment(const char* name) {
+  const char* value = std::getenv(name);
+  return value && *value ? value : nullptr;
+}
+
+}  // namespace
+
+fs::path defaultPhoneFolder() {
+  // The variable counts only when it holds an absolute path.
+  if (const char* data = environment("XDG_DATA_HOME"); data && fs::path(data).is_absolute()) {
+    return fs::path(data) / "quillmere/phone";
+  }
+  if (const char* home = environment("HOME")) {
+    return fs::path(home) / ".local/share/quillmere/phone";
+  }
+  throw std::runtime_error("HOME is not set: name the phone folder with --root");
+}
+
+void requireFolder(const fs::path& folder) {
+  std::error_code error;
+  fs::create_directory(folder, error);
+  const bool isFolder = fs::is_directory(folder);
+  if (!isFolder) {
+    throw std::runtime_error(folder.string() + " is not a folder" +
+                             (error ? " (" + error.message() + ")" : ""));
+  }
+  if (access(folder.c_str(), W_OK | X_OK) != 0) {
+    throw std::runtime_error(folder.string() + " is not writable (" + std::strerror(errno) + ")");
+  }
+}
+
+void setUpPhone(const desktop::PhoneFolder& folder) {
+  const bool isNew = !folder.exists("/Library") && !folder.exists("/var");
+  for (const char* path : folders) folder.makeFolders(path);
+  folder.makeLink("/User", "var/mobile");
+  install(folder, bundleFiles());
+  if (isNew) install(folder, sampleAnimations());
+}
+
+}  // namespace settings

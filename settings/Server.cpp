@@ -1,0 +1,128 @@
+#include "settings/Server.h"
+
+#include <boost/asio/co_spawn.hpp>
+#include <boost/asio/detached.hpp>
+#include <boost/asio/redirect_error.hpp>
+#include <boost/asio/steady_timer.hpp>
+#include <boost/asio/use_awaitable.hpp>
+#include <boost/beast/core/flat_buffer.hpp>
+#include <boost/beast/core/tcp_stream.hpp>
+#include <boost/beast/http/parser.hpp>
+#include <boost/beast/http/read.hpp>
+#include <boost/beast/http/write.hpp>
+#include <boost/beast/websocket/rfc6455.hpp>
+#include <chrono>
+
+#include "settings/Client.h"
+#include "settings/Site.h"
+#include "settings/Touch.h"
+
+namespace settings {
+
+namespace asio = boost::asio;
+namespace beast = boost::beast;
+namespace http = beast::http;
+using asio::use_awaitable;
+using asio::ip::tcp;
+
+namespace {
+
+constexpr unsigned maximumConnections = 64;
+constexpr std::size_t maximumHeader = 8 * 1024;
+constexpr auto headerTime = std::chrono::seconds(5);
+
+/// Counts itself for as long as it lives.
+class Counted {
+ public:
+  explicit Counted(std::shared_ptr<unsigned> count) : count_(std::move(count)) { ++*count_; }
+  Counted(const Counted&) = delete;
+  Counted& operator=(const Counted&) = delete;
+  ~Counted() { --*count_; }
+
+ private:
+  std::shared_ptr<unsigned> count_;
+};
+
+bool isHandshake(const Request& request) {
+  return beast::websocket::is_upgrade(request) && request.target() == socketPath;
+}
+
+}  // namespace
+
+Server::Server(asio::io_context& loop, std::uint16_t port, Application application)
+    : application_(std::move(application)),
+      acceptor_(loop, tcp::endpoint(asio::ip::address_v4::loopback(), port)),
+      access_(acceptor_.local_endpoint().port()) {
+  asio::co_spawn(loop, accept(), asio::detached);
+}
+
+Server::~Server() = default;
+
+asio::awaitable<void> Server::accept() {
+  for (;;) {
+    boost::system::error_code error;
+    tcp::socket socket =
+        co_await acceptor_.async_accept(asio::redirect_error(use_awaitable, error));
+    if (error) {
+      // Out of descriptors, most likely: wait for some to come free.
+      asio::steady_timer pause(acceptor_.get_executor(), std::chrono::milliseconds(100));
+      co_await pause.async_wait(use_awaitable);
+      continue;
+    }
+    if (*connections_ == maximumConnections) continue;
+    asio::co_spawn(acceptor_.get_executor(), serve(std::move(socket)), asio::detached);
+  }
+}
+
+asio::awaitable<void> Server::serve(tcp::socket socket) {
+  const Counted counted(connections_);
+  beast::tcp_stream stream(std::move(socket));
+  beast::flat_buffer buffer;
+  try {
+    for (bool open = true; open;) {
+      stream.expires_after(headerTime);
+      http::request_parser<http::empty_body> parser;
+      parser.header_limit(maximumHeader);
+      co_await http::async_read(stream, buffer, parser, use_awaitable);
+      const Request request = parser.release();
+
+      if (isHandshake(request) && !access_.refusal(request)) {
+        stream.expires_never();
+        const auto client = std::make_shared<Client>(std::move(stream));
+        co_await converse(client, request);
+        co_return;
+      }
+      const Response response = answer(access_, request);
+      co_await http::async_write(stream, response, use_awaitable);
+      open = response.keep_alive();
+    }
+    beast::error_code ignored;
+    stream.socket().shutdown(tcp::socket::shutdown_send, ignored);
+  } catch (const boost::system::system_error&) {
+    // The browser has gone, was too slow, or sent what is no request: the connection is dropped.
+  }
+}
+
+asio::awaitable<void> Server::converse(std::shared_ptr<Client> client, Request handshake) {
+  clients_.insert(client);
+  client->show(application_.tree());
+  try {
+    co_await client->run(std::move(handshake),
+                         [&](std::string_view message) { touched(*client, message); });
+  } catch (const boost::system::system_error&) {
+    // The page was closed.
+  }
+  clients_.erase(client);
+}
+
+void Server::touched(Client& client, std::string_view message) {
+  try {
+    application_.touch(message);
+  } catch (const RefusedTouch& refused) {
+    client.refuse(refused.what());
+  }
+  const Tree tree = application_.tree();
+  for (const auto& each : clients_) each->show(tree);
+}
+
+}  // namespace settings

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <boost/asio/awaitable.hpp>
+#include <boost/asio/io_context.hpp>
+#include <boost/asio/ip/tcp.hpp>
+#include <functional>
+#include <memory>
+#include <set>
+#include <string_view>
+
+#include "settings/Access.h"
+#include "settings/Http.h"
+#include "settings/Tree.h"
+
+namespace settings {
+
+class Client;
+
+/// The local server: it serves the page, and keeps every open page in step with the screen.
+class Server {
+ public:
+  /// What the server needs to know of the application.
+  struct Application {
+    /// What the screen shows now.
+    std::function<Tree()> tree;
+    /// Carries out a touch. Throws `RefusedTouch`.
+    std::function<void(std::string_view message)> touch;
+  };
+
+  /// Listens on the loopback address only; port 0 takes a free one. Throws
+  /// `boost::system::system_error`.
+  Server(boost::asio::io_context& loop, std::uint16_t port, Application application);
+  ~Server();
+
+  /// The address to open in a browser.
+  std::string address() const { return access_.address(); }
+
+ private:
+  boost::asio::awaitable<void> accept();
+  boost::asio::awaitable<void> serve(boost::asio::ip::tcp::socket socket);
+  boost::asio::awaitable<void> converse(std::shared_ptr<Client> client, Request handshake);
+  void touched(Client& client, std::string_view message);
+
+  Application application_;
+  boost::asio::ip::tcp::acceptor acceptor_;
+  Access access_;
+  std::set<std::shared_ptr<Client>> clients_;
+  /// How many connections are open; shared with them, since they may outlive the server.
+  std::shared_ptr<unsigned> connections_ = std::make_shared<unsigned>(0);
+};
+
+}  // namespace settings
