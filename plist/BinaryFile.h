@@ -1,0 +1,75 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+/// The binary form, version 00, as CFBinaryPList.c of CoreFoundation describes it: objects one
+/// after another, a table of their offsets, and a trailer of 32 bytes that says where the table is.
+namespace plist::binary {
+
+inline constexpr std::string_view kMagic = "bplist00";
+inline constexpr std::size_t kTrailerSize = 32;
+
+/// The high half of an object's first byte; the low half is a length or a width.
+enum class Marker : std::uint8_t {
+  Simple = 0x0,
+  Integer = 0x1,
+  Real = 0x2,
+  Date = 0x3,
+  Data = 0x4,
+  Ascii = 0x5,
+  Utf16 = 0x6,
+  Uid = 0x8,
+  Array = 0xA,
+  Dictionary = 0xD
+};
+inline constexpr std::uint8_t kFalse = 0x8;
+inline constexpr std::uint8_t kTrue = 0x9;
+inline constexpr std::uint8_t kLongLength = 0xF;  // the length follows as an integer
+
+/// An object as it stands in the file.
+struct Object {
+  Marker marker;
+  std::uint8_t low;        ///< The low half of the first byte.
+  std::size_t offset;      ///< Of the first byte.
+  std::uint64_t count;     ///< Bytes of data or ASCII text, UTF-16 units, elements or entries.
+  std::string_view bytes;  ///< What follows, exactly as long as the object says.
+};
+
+/// `bytes` as one number, the high byte first; the low 64 bits of it.
+inline std::uint64_t bigEndian(std::string_view bytes) noexcept {
+  std::uint64_t number = 0;
+  for (const char byte : bytes) number = number << 8 | static_cast<std::uint8_t>(byte);
+  return number;
+}
+
+/// A file whose trailer is sound. Nothing that it hands out reaches beyond the bytes; each of its
+/// functions throws Unreadable instead.
+class File {
+ public:
+  explicit File(std::string_view bytes);
+
+  [[nodiscard]] std::uint64_t objectCount() const noexcept { return objectCount_; }
+  [[nodiscard]] std::uint64_t topObject() const noexcept { return topObject_; }
+
+  /// The object of that number, which is below objectCount().
+  [[nodiscard]] Object object(std::uint64_t number) const;
+
+  /// The number at `index` of the references that are a container's bytes.
+  [[nodiscard]] std::uint64_t reference(const Object& container, std::uint64_t index) const;
+
+ private:
+  [[nodiscard]] std::uint64_t readLength(std::size_t& at) const;
+  [[nodiscard]] std::uint64_t payloadSize(const Object& object) const;
+
+  std::string_view bytes_;
+  std::string_view objects_;  // all before the table, the magic included, so offsets are the file's
+  std::string_view table_;
+  std::uint64_t objectCount_ = 0;
+  std::uint64_t topObject_ = 0;
+  std::uint8_t offsetSize_ = 0;
+  std::uint8_t referenceSize_ = 0;
+};
+
+}  // namespace plist::binary

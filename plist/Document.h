@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+#include "plist/Value.h"
+
+namespace plist {
+
+/// How a property list stands in a file.
+enum class Form { Xml, Binary };
+
+/// A property list as it came from a file.
+struct Document {
+  Value root;
+  Form form;
+};
+
+/// Bounds that keep a hostile file from costing more than a large honest one.
+struct Limits {
+  std::uint32_t bytes = 16 * 1024 * 1024;  ///< Of input; 1 GiB is the most there can be.
+  std::uint32_t depth = 512;               ///< Containers inside one another.
+  std::uint32_t nodes = 400'000;  ///< Values and keys, a shared one counted wherever it shows.
+};
+
+/// The bytes are not a property list, or go beyond the limits.
+class Unreadable : public std::runtime_error {
+ public:
+  explicit Unreadable(const std::string& reason, std::optional<std::size_t> offset = {});
+
+  /// Where in the file, in bytes; none where no one place is to blame.
+  [[nodiscard]] std::optional<std::size_t> offset() const noexcept { return offset_; }
+
+ private:
+  std::optional<std::size_t> offset_;
+};
+
+/// Reads a property list in either form, told apart by content: binary of version 00 (after
+/// CFBinaryPList.c of CoreFoundation), or XML after the DTD -//Apple//DTD PLIST 1.0//EN in UTF-8
+/// or, with a byte-order mark, UTF-16. It reads all of it or nothing: throws Unreadable, or
+/// std::bad_alloc. Where one dictionary repeats a key the platform decides: the last value counts
+/// in XML, the first in binary. A dictionary whose only key is CF$UID stays a dictionary.
+Document read(std::string bytes, const Limits& limits = {});
+
+/// The value in binary form, version 00; no key order or sharing is invented or lost.
+/// Throws std::bad_alloc.
+std::string writeBinary(const Value& value);
+
+/// The value as XML, none when XML cannot carry some of it exactly: a date with a fraction, not
+/// finite or -0.0; a UID; text that XML 1.0 has no form for; a NaN other than the plain quiet one.
+/// A real of single width is written as the same number, which reads back in double width.
+std::optional<std::string> writeXml(const Value& value);
+
+/// What writeXml or writeBinary gives, whichever is wanted; binary also where XML gives none.
+std::string write(const Value& value, Form wanted);
+
+}  // namespace plist

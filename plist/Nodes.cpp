@@ -1,0 +1,124 @@
+#include "plist/Nodes.h"
+
+#include <cstddef>
+#include <utility>
+
+namespace plist {
+namespace {
+
+/// Nodes that nobody holds any more, chained through themselves: freeing never allocates.
+class Doomed {
+ public:
+  void add(Node* node) noexcept {
+    if (node == nullptr) return;
+    node->nextDoomed = first_;
+    first_ = node;
+  }
+  Node* take() noexcept {
+    Node* node = first_;
+    if (node != nullptr) first_ = node->nextDoomed;
+    return node;
+  }
+
+ private:
+  Node* first_ = nullptr;
+};
+
+bool dropReference(Node* node) noexcept {
+  return node != nullptr && node->references.fetch_sub(1, std::memory_order_acq_rel) == 1;
+}
+
+}  // namespace
+
+Node* Internals::node(const Value& container) noexcept {
+  return container.kind() == Kind::Array ? static_cast<Node*>(container.payload_.array.node_)
+                                         : container.payload_.dictionary.node_;
+}
+
+Node* Internals::surrender(Value& value, BufferReturn& buffers) noexcept {
+  if (!value.shares()) return nullptr;
+  const Kind kind = value.kind();
+  Node* const child = kind >= Kind::Array ? node(value) : nullptr;
+  if (child == nullptr && kind < Kind::Array) buffers.add(value.payload_.buffer);
+  value.tag_ = 0;  // a boolean: nothing is left for its destructor
+  return dropReference(child) ? child : nullptr;
+}
+
+void Node::release() noexcept {
+  if (!dropReference(this)) return;
+  Doomed doomed;
+  BufferReturn buffers;
+  doomed.add(this);
+  while (Node* const node = doomed.take()) {
+    if (node->isDictionary) {
+      auto* const dictionary = static_cast<DictionaryNode*>(node);
+      for (Dictionary::Entry& entry : dictionary->entries) {
+        Internals::surrender(Internals::key(entry), buffers);
+        doomed.add(Internals::surrender(Internals::value(entry), buffers));
+      }
+      delete dictionary;
+    } else {
+      auto* const array = static_cast<ArrayNode*>(node);
+      for (Value& item : array->items) doomed.add(Internals::surrender(item, buffers));
+      delete array;
+    }
+  }
+}
+
+std::uint32_t DictionaryNode::slot(std::string_view key) const noexcept {
+  const auto matches = [&](std::uint32_t at) { return entries[at].key() == key; };
+  if (!index_.empty()) return index_.slot(keyHash(key), matches);
+  for (std::uint32_t at = 0; at < entries.size(); ++at) {
+    if (matches(at)) return at + 1;
+  }
+  return KeyIndex::kFree;
+}
+
+const Dictionary::Entry* DictionaryNode::find(std::string_view key) const noexcept {
+  const std::uint32_t found = slot(key);
+  return found == KeyIndex::kFree ? nullptr : &entries[found - 1];
+}
+
+void DictionaryNode::fill(KeyIndex& index) const noexcept {
+  for (std::uint32_t at = 0; at < entries.size(); ++at) {
+    index.slot(keyHash(entries[at].key()), [](std::uint32_t) { return false; }) = at + 1;
+  }
+}
+
+void DictionaryNode::reindex(std::size_t count) {
+  KeyIndex index = KeyIndex::withRoomFor(count);
+  fill(index);
+  index_ = std::move(index);
+}
+
+void DictionaryNode::reserve(std::size_t count) {
+  entries.reserve(count);
+  if (count > kUnindexed && !index_.holds(count)) reindex(count);
+}
+
+Value* DictionaryNode::add(Value key, Value value) {
+  const std::string_view text = *key.string();
+  const std::size_t count = entries.size() + 1;
+  if (count > kUnindexed && !index_.holds(count)) reindex(2 * count);
+  if (index_.empty()) {
+    if (const std::uint32_t found = slot(text)) return &Internals::value(entries[found - 1]);
+    entries.push_back(Internals::entry(std::move(key), std::move(value)));
+    return nullptr;
+  }
+  std::uint32_t& place =
+      index_.slot(keyHash(text), [&](std::uint32_t at) { return entries[at].key() == text; });
+  if (place != KeyIndex::kFree) return &Internals::value(entries[place - 1]);
+  entries.push_back(Internals::entry(std::move(key), std::move(value)));
+  place = static_cast<std::uint32_t>(count);
+  return nullptr;
+}
+
+void DictionaryNode::erase(std::size_t position) noexcept {
+  entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(position));
+  if (!index_.empty()) {
+    index_.clear();
+    fill(index_);
+  }
+}
+
+}  // namespace plist

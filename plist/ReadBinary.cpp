@@ -1,0 +1,280 @@
+#include "plist/ReadBinary.h"
+
+#include <algorithm>
+#include <bit>
+#include <deque>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "plist/BinaryFile.h"
+#include "plist/Nodes.h"
+#include "plist/Text.h"
+
+namespace plist {
+namespace {
+
+using binary::File;
+using binary::Marker;
+using binary::Object;
+using Kind = Internals::Kind;
+
+/// ASCII text up to this length is cheaper to look at again than to remember.
+constexpr std::size_t kShortText = 256;
+/// What one allocation holds of the text that had to be converted.
+constexpr std::size_t kConvertedBlock = 64 * 1024;
+
+/// An object that several places may share: read once, counted at each of them.
+struct Known {
+  Value value;
+  std::uint32_t nodes = 0;   ///< Below it.
+  std::uint32_t height = 0;  ///< Containers inside one another, itself counted.
+};
+
+/// A container whose elements are being read.
+struct Open {
+  Object object;
+  std::uint64_t number;
+  std::uint64_t next = 0;         ///< Element to read.
+  std::uint32_t nodesBefore = 0;  ///< Counted before its elements were.
+  std::uint32_t height = 1;
+  Value value;
+};
+
+class BinaryReader {
+ public:
+  BinaryReader(std::string bytes, const Limits& limits)
+      : source_(std::move(bytes)), file_(source_.bytes()), limits_(limits) {
+    // Each object in use counts at least once.
+    if (file_.objectCount() > limits.nodes) throw Unreadable("too many objects");
+    states_.resize(file_.objectCount(), kUnread);
+  }
+
+  Value readTree() {
+    count(1);
+    std::optional<Value> root = read(file_.topObject());
+    while (!open_.empty()) {
+      if (!readElements()) continue;
+      root = close();
+      if (!open_.empty()) place(open_.back(), std::move(*root));
+    }
+    return std::move(*root);
+  }
+
+ private:
+  // What is known of an object; kKnown and above is a position among the known ones.
+  static constexpr std::uint32_t kUnread = 0;
+  static constexpr std::uint32_t kOpen = 1;
+  static constexpr std::uint32_t kKnown = 2;
+
+  void count(std::uint64_t nodes) {
+    if (nodes > limits_.nodes - nodes_) throw Unreadable("too many values");
+    nodes_ += static_cast<std::uint32_t>(nodes);
+  }
+
+  void checkDepth(std::size_t more, std::size_t offset) const {
+    if (open_.size() + more > limits_.depth) throw Unreadable("nested too deeply", offset);
+  }
+
+  std::optional<Value> read(std::uint64_t number);
+  std::optional<Value> readShared(std::uint64_t number);
+  Value readKey(std::uint64_t number);
+  Value readScalar(const Object& object);
+  static Value readUid(const Object& object);
+  Value readText(const Object& object, std::uint64_t number);
+  Value convert(std::string_view units);
+  void open(const Object& object, std::uint64_t number);
+  bool readElements();
+  void place(Open& parent, Value value);
+  Value close();
+
+  void remember(std::uint64_t number, Known known) {
+    known_.push_back(std::move(known));
+    states_[number] = static_cast<std::uint32_t>(known_.size() - 1) + kKnown;
+  }
+
+  Value slice(Kind kind, const Object& object) {
+    if (object.bytes.size() > Internals::kMaxSize) throw Unreadable("too long", object.offset);
+    const auto start = static_cast<std::size_t>(object.bytes.data() - source_.bytes().data());
+    return Internals::slice(kind, source_.take(), static_cast<std::uint32_t>(start),
+                            static_cast<std::uint32_t>(object.bytes.size()));
+  }
+
+  BufferLoan source_;
+  std::optional<BufferLoan> converted_;
+  File file_;
+  const Limits& limits_;
+  std::vector<std::uint32_t> states_;  // by object number
+  std::deque<Known> known_;
+  std::vector<Open> open_;
+  std::uint32_t nodes_ = 0;
+  std::size_t rememberedText_ = 0;
+};
+
+/// The value of an object, none if it is a container that was opened only now.
+std::optional<Value> BinaryReader::read(std::uint64_t number) {
+  if (states_[number] != kUnread) return readShared(number);
+  const Object object = file_.object(number);
+  switch (object.marker) {
+    case Marker::Array:
+    case Marker::Dictionary:
+      open(object, number);
+      return {};
+    case Marker::Ascii:
+    case Marker::Utf16:
+      return readText(object, number);
+    default:
+      return readScalar(object);
+  }
+}
+
+std::optional<Value> BinaryReader::readShared(std::uint64_t number) {
+  if (states_[number] == kOpen) {
+    throw Unreadable("container inside itself", file_.object(number).offset);
+  }
+  const Known& known = known_[states_[number] - kKnown];
+  count(known.nodes);
+  checkDepth(known.height, 0);
+  if (!open_.empty()) open_.back().height = std::max(open_.back().height, known.height + 1);
+  return known.value;
+}
+
+Value BinaryReader::readScalar(const Object& object) {
+  const std::uint64_t low = binary::bigEndian(object.bytes);
+  const std::size_t size = object.bytes.size();
+  switch (object.marker) {
+    case Marker::Simple:
+      if (object.low == binary::kFalse || object.low == binary::kTrue) {
+        return Value(object.low == binary::kTrue);
+      }
+      break;
+    case Marker::Integer: {
+      if (size < 8) return Value::integer(low);
+      if (size == 8) return Value::integer(static_cast<std::int64_t>(low));
+      if (size > 16) break;
+      // Two's complement: the high half says no more than the sign of a number in range.
+      const std::uint64_t high = binary::bigEndian(object.bytes.substr(0, 8));
+      const auto negative = static_cast<std::int64_t>(low);
+      if (high == 0) return Value::integer(low);
+      if (high == ~std::uint64_t{0} && negative < 0) return Value::integer(negative);
+      throw Unreadable("integer out of range", object.offset);
+    }
+    case Marker::Real:
+      if (size == 4) return Value::real(std::bit_cast<float>(static_cast<std::uint32_t>(low)));
+      if (size == 8) return Value::real(std::bit_cast<double>(low));
+      break;
+    case Marker::Date:
+      if (size == 8) return Value::date(std::bit_cast<double>(low));
+      break;
+    case Marker::Uid:
+      return readUid(object);
+    case Marker::Data:
+      return slice(Kind::Data, object);
+    default:
+      break;
+  }
+  throw Unreadable("object of no known type", object.offset);
+}
+
+Value BinaryReader::readUid(const Object& object) {
+  constexpr std::size_t kBytes = sizeof(std::uint32_t);
+  const std::size_t leading = object.bytes.size() - std::min(object.bytes.size(), kBytes);
+  if (object.bytes.find_first_not_of('\0') < leading) {
+    throw Unreadable("UID out of range", object.offset);
+  }
+  return Value::uid(static_cast<std::uint32_t>(binary::bigEndian(object.bytes)));
+}
+
+Value BinaryReader::readText(const Object& object, std::uint64_t number) {
+  const bool ascii = object.marker == Marker::Ascii;
+  if (ascii && !isAscii(object.bytes)) throw Unreadable("text beyond ASCII", object.offset);
+  if (ascii && object.bytes.size() <= kShortText) return slice(Kind::String, object);
+  // Texts that lie over one another could otherwise add up to far more than the file.
+  rememberedText_ += object.bytes.size();
+  if (rememberedText_ > source_.bytes().size()) throw Unreadable("texts overlap", object.offset);
+  remember(number, {ascii ? slice(Kind::String, object) : convert(object.bytes)});
+  return known_.back().value;
+}
+
+Value BinaryReader::convert(std::string_view units) {
+  const std::size_t most = units.size() / 2 * 3;
+  if (most > Internals::kMaxSize) throw Unreadable("text too long");
+  if (!converted_ || converted_->bytes().capacity() - converted_->bytes().size() < most) {
+    std::string block;
+    block.reserve(std::max(most, std::min(kConvertedBlock, source_.bytes().size())));
+    converted_.emplace(std::move(block));
+  }
+  std::string& text = converted_->bytes();
+  const std::size_t start = text.size();
+  appendUtf16(units, text);
+  return Internals::slice(Kind::String, converted_->take(), static_cast<std::uint32_t>(start),
+                          static_cast<std::uint32_t>(text.size() - start));
+}
+
+Value BinaryReader::readKey(std::uint64_t number) {
+  if (states_[number] >= kKnown) {
+    const Value& known = known_[states_[number] - kKnown].value;
+    if (known.string()) return known;
+  } else if (states_[number] == kUnread) {
+    const Object object = file_.object(number);
+    if (object.marker == Marker::Ascii || object.marker == Marker::Utf16) {
+      return readText(object, number);
+    }
+  }
+  throw Unreadable("key that is not a string", file_.object(number).offset);
+}
+
+void BinaryReader::open(const Object& object, std::uint64_t number) {
+  checkDepth(1, object.offset);
+  const bool dictionary = object.marker == Marker::Dictionary;
+  const std::uint32_t before = nodes_;
+  count(dictionary ? 2 * object.count : object.count);  // before any memory is set aside for them
+  Value value = dictionary ? Value(Dictionary()) : Value(Array());
+  if (dictionary) {
+    value.dictionary()->reserve(object.count);
+  } else {
+    value.array()->reserve(object.count);
+  }
+  open_.push_back({object, number, 0, before, 1, std::move(value)});
+  states_[number] = kOpen;
+}
+
+/// Reads on until the innermost container is complete (true) or an element opens another (false).
+bool BinaryReader::readElements() {
+  Open& parent = open_.back();
+  const bool dictionary = parent.object.marker == Marker::Dictionary;
+  while (parent.next < parent.object.count) {
+    const std::uint64_t index = dictionary ? parent.object.count + parent.next : parent.next;
+    std::optional<Value> value = read(file_.reference(parent.object, index));
+    if (!value) return false;
+    place(parent, std::move(*value));
+  }
+  return true;
+}
+
+void BinaryReader::place(Open& parent, Value value) {
+  const std::uint64_t index = parent.next++;
+  if (Array* const array = parent.value.array()) {
+    array->append(std::move(value));
+  } else {
+    // The first of two entries with one key stays.
+    Value key = readKey(file_.reference(parent.object, index));
+    Internals::own(*parent.value.dictionary()).add(std::move(key), std::move(value));
+  }
+}
+
+Value BinaryReader::close() {
+  Open done = std::move(open_.back());
+  open_.pop_back();
+  if (!open_.empty()) open_.back().height = std::max(open_.back().height, done.height + 1);
+  remember(done.number, {done.value, nodes_ - done.nodesBefore, done.height});
+  return std::move(done.value);
+}
+
+}  // namespace
+
+Value readBinary(std::string bytes, const Limits& limits) {
+  return BinaryReader(std::move(bytes), limits).readTree();
+}
+
+}  // namespace plist
