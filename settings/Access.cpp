@@ -30,10 +30,8 @@ std::string secret() {
 /// In a time that does not tell how much of the text was right.
 bool equalSecrets(std::string_view given, std::string_view expected) {
   if (given.size() != expected.size()) return false;
-  unsigned difference = 0;
-  for (std::size_t i = 0; i < expected.size(); ++i) {
-    difference |= static_cast<unsigned char>(given[i]) ^ static_cast<unsigned char>(expected[i]);
-  }
+  int difference = 0;
+  for (std::size_t i = 0; i < expected.size(); ++i) difference |= given[i] ^ expected[i];
   return difference == 0;
 }
 

@@ -48,11 +48,10 @@ fs::path defaultPhoneFolder() {
 void requireFolder(const fs::path& folder) {
   std::error_code error;
   fs::create_directory(folder, error);
-  const bool isFolder = fs::is_directory(folder);
-  if (!isFolder) {
-    throw std::runtime_error(folder.string() + " is not a folder" +
-                             (error ? " (" + error.message() + ")" : ""));
+  if (!fs::exists(folder)) {
+    throw std::runtime_error(folder.string() + " cannot be made (" + error.message() + ")");
   }
+  if (!fs::is_directory(folder)) throw std::runtime_error(folder.string() + " is not a folder");
   if (access(folder.c_str(), W_OK | X_OK) != 0) {
     throw std::runtime_error(folder.string() + " is not writable (" + std::strerror(errno) + ")");
   }

@@ -1,0 +1,228 @@
+#include <algorithm>
+#include <fstream>
+#include <functional>
+#include <gtest/gtest.h>
+#include <sstream>
+#include <stdexcept>
+
+#include "desktop/Foundation/ArrayBody.h"
+#include "desktop/Foundation/Values.h"
+#include "desktop/Message.h"
+#include "desktop/Phone.h"
+#include "desktop/Preferences/SpecifierBody.h"
+#include "desktop/SettingsApplication.h"
+#include "desktop/UIKit/ControllerState.h"
+#include "settings/PhoneSetup.h"
+#include "tests/support/Driver.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace support {
+
+using desktop::bodyAs;
+using desktop::debugDescription;
+
+namespace {
+
+constexpr const char* ownDomain = "com.orvalen.quillmere";
+
+std::string pathOf(const std::string& domain) {
+  return "/User/Library/Preferences/" + (domain.empty() ? ownDomain : domain) + ".plist";
+}
+
+RowFacts factsOf(const platform::Object& object) {
+  const auto& row = *bodyAs<desktop::SpecifierBody>(object);
+  RowFacts facts{
+      debugDescription(row.name), static_cast<long long>(row.cell), row.set, row.get, {}, {}, {}};
+  for (const auto& [key, value] : row.properties) {
+    facts.properties.emplace_back(key, debugDescription(value));
+  }
+  if (row.values) facts.values = debugDescription(row.values);
+  if (row.titles) facts.titles = debugDescription(row.titles);
+  return facts;
+}
+
+template <class... Functions>
+struct Overloaded : Functions... {
+  using Functions::operator()...;
+};
+
+std::string shownBy(const desktop::AnyCell& any) {
+  return std::visit(
+      Overloaded{
+          [](const desktop::SwitchCell& cell) { return std::string(cell.isOn() ? "on" : "off"); },
+          [](const desktop::SliderCell& cell) { return desktop::Argument(cell.value()).text(); },
+          [](const desktop::SegmentCell& cell) {
+            return cell.selected() ? cell.titles()[*cell.selected()] : std::string("none");
+          },
+          [](const desktop::ColorCell& cell) { return cell.color().web(); },
+          [](const desktop::Cell& cell) { return cell.label(); },
+      },
+      any);
+}
+
+}  // namespace
+
+struct Driver::State {
+  State() : phone(folder.path) {
+    phone.report = [this](const std::string& line) { reports.push_back(line); };
+    phone.notifications.observe([this](const std::string& name) { posted.push_back(name); });
+    phone.journal.start();
+    settings::setUpPhone(phone.folder);
+    application = std::make_unique<desktop::SettingsApplication>("Quillmere");
+  }
+
+  desktop::NavigationController::Page& top() { return application->navigation.top(); }
+  platform::PSListController& page() {
+    return dynamic_cast<platform::PSListController&>(*top().controller);
+  }
+
+  /// The first cell of this type for which `matches` holds.
+  template <class Cell>
+  Cell& cell(const std::string& what, const std::function<bool(const Cell&)>& matches) {
+    for (desktop::Section& section : top().sections) {
+      for (desktop::AnyCell& any : section.cells) {
+        auto* cell = std::get_if<Cell>(&any);
+        if (cell && matches(*cell)) return *cell;
+      }
+    }
+    throw std::runtime_error("nothing to touch: " + what);
+  }
+  template <class Cell>
+  Cell& keyed(const std::string& key) {
+    return cell<Cell>(key, [&](const Cell& candidate) { return candidate.key() == key; });
+  }
+
+  platform::PSSpecifier loose(const LooseRow& row) {
+    auto specifier = desktop::make<platform::PSSpecifier, desktop::SpecifierBody>();
+    auto& body = *bodyAs<desktop::SpecifierBody>(specifier);
+    body.target = &page();
+    for (const auto& [key, value] : row.properties) body.setProperty(desktop::box(value), key);
+    return specifier;
+  }
+  platform::Object call(const std::string& selector, const platform::Object& first,
+                        const platform::Object& second = {}) {
+    const auto methods = page().methods();
+    const auto found = std::ranges::find(
+        methods, selector, [](const platform::Method& method) { return method.selector.name; });
+    if (found == methods.end()) throw std::runtime_error("no method " + selector);
+    return found->invoke(page(), first, second);
+  }
+
+  TemporaryFolder folder;
+  std::vector<std::string> reports;
+  std::vector<std::string> posted;
+  desktop::Phone phone;
+  std::unique_ptr<desktop::SettingsApplication> application;
+};
+
+Driver::Driver() : state_(std::make_unique<State>()) { forget(); }
+Driver::~Driver() = default;
+
+void Driver::tap(const std::string& label) {
+  state_
+      ->cell<desktop::ActionCell>(
+          label, [&](const desktop::ActionCell& cell) { return cell.label() == label; })
+      .tap();
+}
+
+void Driver::back() { state_->application->navigation.pop(); }
+
+void Driver::toggle(const std::string& key, bool on) {
+  state_->keyed<desktop::SwitchCell>(key).toggle(on);
+}
+
+void Driver::slide(const std::string& key, double value) {
+  state_->keyed<desktop::SliderCell>(key).slide(value);
+}
+
+void Driver::select(const std::string& key, std::size_t index) {
+  state_->keyed<desktop::SegmentCell>(key).select(index);
+}
+
+void Driver::pick(const std::string& key, const std::string& color) {
+  state_->keyed<desktop::ColorCell>(key).pick(desktop::HexColor::parseWeb(color).value());
+}
+
+std::string Driver::shown(const std::string& key) const {
+  for (const desktop::Section& section : state_->top().sections) {
+    for (const desktop::AnyCell& any : section.cells) {
+      if (std::visit([&](const auto& cell) { return cell.key() == key; }, any)) {
+        return shownBy(any);
+      }
+    }
+  }
+  throw std::runtime_error("no row shows " + key);
+}
+
+std::vector<std::string> Driver::titles() const {
+  std::vector<std::string> titles;
+  for (const auto& page : state_->application->navigation.pages()) {
+    titles.push_back(desktop::stateOf(*page.controller).title);
+  }
+  return titles;
+}
+
+std::vector<RowFacts> Driver::rows() {
+  std::vector<RowFacts> rows;
+  for (const platform::Object& row :
+       bodyAs<desktop::ArrayBody>(state_->page().specifiers())->objects) {
+    rows.push_back(factsOf(row));
+  }
+  return rows;
+}
+
+bool Driver::listIsCached() { return state_->page().specifiers() == state_->page().specifiers(); }
+
+std::optional<plist::Value> Driver::read(const LooseRow& row) {
+  const platform::Object value = state_->call("readPreferenceValue:", state_->loose(row));
+  return value ? std::optional(desktop::unbox(value)) : std::nullopt;
+}
+
+void Driver::write(const LooseRow& row, const plist::Value& value) {
+  state_->call("setPreferenceValue:specifier:", desktop::box(value), state_->loose(row));
+}
+
+void Driver::putFile(const std::string& bytes, const std::string& domain) {
+  state_->phone.folder.replace(pathOf(domain), bytes);
+}
+
+void Driver::putFile(const plist::Dictionary& dictionary, plist::Form form,
+                     const std::string& domain) {
+  putFile(plist::write(plist::Value(dictionary), form), domain);
+}
+
+void Driver::removeFile() { state_->phone.folder.remove(pathOf({})); }
+
+std::optional<std::string> Driver::fileBytes(const std::string& domain) const {
+  return state_->phone.folder.read(pathOf(domain));
+}
+
+plist::Dictionary Driver::file(const std::string& domain) const {
+  return *plist::read(fileBytes(domain).value()).root.dictionary();
+}
+
+std::optional<plist::Value> Driver::serviceValue(const std::string& key) const {
+  return state_->phone.preferences.value(ownDomain, key);
+}
+
+void Driver::withoutClass(const std::string& name) { state_->phone.missingClasses.insert(name); }
+
+bool Driver::initSucceeds(const std::string& className, bool superclassRefuses) {
+  const auto controller = desktop::makeController(className);
+  desktop::stateOf(*controller).refusesInit = superclassRefuses;
+  return controller->init();
+}
+
+std::vector<std::string> Driver::journal() const { return state_->phone.journal.lines(); }
+
+void Driver::forget() {
+  state_->phone.journal.clear();
+  state_->posted.clear();
+  state_->reports.clear();
+}
+
+std::vector<std::string> Driver::notifications() const { return state_->posted; }
+
+std::vector<std::string> Driver::reports() const { return state_->reports; }
+
+}  // namespace support
