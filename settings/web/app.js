@@ -18,7 +18,9 @@ function show(state) {
   if (!stage.inert) left = focusedElement();
   stage.inert = state !== 'open';
   notice.textContent = notices[state];
-  if (state === 'open' && left?.isConnected) left.focus({ preventScroll: true });
+  if (state !== 'open') return;
+  const target = left.isConnected ? left : stage.querySelector('.page:not([inert]) .title');
+  target.focus({ preventScroll: true });
 }
 
 const connection = new Connection({

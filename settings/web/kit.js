@@ -8,3 +8,15 @@ import { defineCustomElement as defineToggle } from '/ui/ionic/ion-toggle.js';
 
 initialize({ mode: 'ios' });
 for (const define of [defineRange, defineSegment, defineSegmentButton, defineToggle]) define();
+
+/**
+ * Acts once the kit has drawn a component for the first time. Until then it takes attributes away
+ * from the component, and what is inside is not there yet.
+ */
+export function whenDrawn(component, act) {
+  if (component.shadowRoot.childElementCount > 0) return act();
+  new MutationObserver((_, observer) => {
+    observer.disconnect();
+    act();
+  }).observe(component.shadowRoot, { childList: true });
+}

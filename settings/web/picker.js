@@ -4,19 +4,25 @@ import { element, setText } from './element.js';
 const stage = document.getElementById('stage');
 const title = element('h2', { id: 'picker-title' });
 const done = element('button', { type: 'button', class: 'done' }, 'Done');
-const body = element('div', { class: 'palette' });
+const palette = element('div', { class: 'palette' });
+const swatch = element('span', { class: 'swatch' });
+const code = element('input', {
+  class: 'code', type: 'text', 'aria-label': 'Hex color', maxlength: 9, autocomplete: 'off',
+  spellcheck: 'false',
+});
 const sheet = element('dialog', { class: 'sheet', 'aria-modal': 'true', 'aria-labelledby': title.id },
-  element('header', {}, title, done), body);
+  element('header', {}, title, done), palette, element('div', { class: 'chosen' }, swatch, code));
 const shade = element('div', { class: 'shade' });
 
 let request = null;
 let picked = '';
 
+// The palette's own hex field cuts opacity down instead of rounding it, so that a color would fade
+// a little with every visit; it is asked for exact numbers instead.
 Coloris.init();
 Coloris({
-  parent: body, wrap: false, inline: true, format: 'hex', alpha: true,
-  onChange: (color) => changed(color),
-  a11y: { input: 'Hex color', hueSlider: 'Hue', alphaSlider: 'Opacity' },
+  wrap: false, format: 'rgb', onChange: (color) => take(toHex(color)),
+  a11y: { hueSlider: 'Hue', alphaSlider: 'Opacity' },
 });
 
 /**
@@ -27,33 +33,59 @@ Coloris({
  */
 export async function openPicker(wish) {
   request = wish;
-  picked = wish.color;
   setText(title, wish.title);
   stage.append(shade, sheet);
   stage.querySelector('.window').inert = true;
+  sheet.inert = false;
   sheet.show();
-  Coloris({ alpha: wish.alpha, inline: true, defaultColor: wish.color });
-  describeMarker();
+  Coloris({ parent: palette, alpha: wish.alpha });
+  point(wish.color);
   done.focus();
   await Promise.all(sheet.getAnimations().map(({ finished }) => finished.catch(() => {})));
   // Where the palette lies is measured, so it has to be measured again at its resting place.
   Coloris.updatePosition();
 }
 
-function changed(color) {
+/** Puts the palette's marker and knobs on a color. */
+function point(color) {
+  Coloris({ inline: true, defaultColor: color });
+  take(color);
+}
+
+function take(color) {
   if (!request) return;
-  picked = color.toLowerCase().padEnd(9, 'f');
+  picked = color;
+  code.value = shortHex(color).toUpperCase();
+  swatch.style.setProperty('--color', color);
   describeMarker();
-  request.changed(picked);
+  request.changed(color);
+}
+
+/** A color without its opacity where that says nothing. */
+export function shortHex(color) {
+  return color.replace(/^(#.{6})ff$/i, '$1');
+}
+
+function toHex(color) {
+  const [red, green, blue, alpha = 1] = color.match(/[\d.]+/g).map(Number);
+  const parts = [red, green, blue, Math.round(alpha * 255)];
+  return `#${parts.map((part) => part.toString(16).padStart(2, '0')).join('')}`;
 }
 
 /** The palette's marker moves by arrow keys but does not say what it is. */
 function describeMarker() {
-  const marker = body.querySelector('.clr-marker');
+  const marker = palette.querySelector('.clr-marker');
   marker.role = 'slider';
   marker.ariaRoleDescription = 'two-dimensional slider';
   marker.ariaValueText = marker.ariaLabel;
   marker.ariaValueNow = /[\d.]+/.exec(marker.ariaLabel)[0];
+}
+
+function typed() {
+  const digits = /^#?([\da-f]{6})([\da-f]{2})?$/i.exec(code.value.trim());
+  if (!digits) return take(picked);
+  const alpha = (request.alpha && digits[2]) || 'ff';
+  point(`#${digits[1]}${alpha}`.toLowerCase());
 }
 
 function close() {
@@ -62,15 +94,31 @@ function close() {
   document.activeElement.blur();
   const { closed } = request;
   request = null;
+  sheet.inert = true;
+  stage.querySelector('.window').inert = false;
+  closed(picked);
+  withdraw();
+}
+
+/** Lets the sheet sink away, unless it is called back meanwhile. */
+async function withdraw() {
+  const duration = matchMedia('(prefers-reduced-motion: reduce)').matches ? 0 : 250;
+  const timing = { duration, easing: 'ease-in', fill: 'forwards' };
+  const sinking = [
+    sheet.animate({ transform: 'translateY(100%)' }, timing),
+    shade.animate({ opacity: 0 }, timing),
+  ];
+  await Promise.all(sinking.map(({ finished }) => finished));
+  for (const animation of sinking) animation.cancel();
+  if (request) return;
   sheet.close();
   shade.remove();
   sheet.remove();
-  stage.querySelector('.window').inert = false;
-  closed(picked);
 }
 
 done.addEventListener('click', close);
 shade.addEventListener('click', close);
+code.addEventListener('change', typed);
 sheet.addEventListener('keydown', (event) => {
   if (event.key === 'Escape') close();
   // The palette would keep Tab to itself and never let it reach the Done button.

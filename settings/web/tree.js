@@ -62,7 +62,7 @@ export class Tree {
     const known = this.#views.get(id);
     if (known?.kind === node.kind) return known;
     const context = this.#context(id);
-    const view = { kind: node.kind, ...kinds[node.kind].create(node, context) };
+    const view = Object.assign(kinds[node.kind].create(node, context), { kind: node.kind });
     view.element.dataset.node = id;
     this.#views.set(id, view);
     kinds[node.kind].update(view, node, context);

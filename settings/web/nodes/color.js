@@ -1,5 +1,5 @@
 import { element, setText } from '../element.js';
-import { openPicker } from '../picker.js';
+import { openPicker, shortHex } from '../picker.js';
 import { describe, tapRow, updateTapRow } from '../row.js';
 
 export function create(_, context) {
@@ -20,7 +20,7 @@ export function update(view, node) {
 }
 
 function paint(view, color) {
-  setText(view.hex, color.toUpperCase().replace(/^(#.{6})FF$/, '$1'));
+  setText(view.hex, shortHex(color).toUpperCase());
   view.well.style.setProperty('--color', color);
 }
 

@@ -1,4 +1,5 @@
 import { element } from '../element.js';
+import { whenDrawn } from '../kit.js';
 import { describe } from '../row.js';
 
 export function create(node, context) {
@@ -7,13 +8,16 @@ export function create(node, context) {
   control.addEventListener('ionChange', ({ detail }) =>
     context.touch({ kind: 'select', index: Number(detail.value) }));
   const row = element('div', { class: 'row segment' }, control);
-  return { element: row, control, titles: [], describe: (footer) => describe(control, footer) };
+  return {
+    element: row, control, titles: [],
+    describe: (footer) => whenDrawn(control, () => describe(control, footer)),
+  };
 }
 
 export function update(view, node) {
   if (view.titles.join('\n') !== node.titles.join('\n')) fill(view, node.titles);
   view.element.dataset.key = node.key;
-  view.control.ariaLabel = node.label;
+  whenDrawn(view.control, () => (view.control.ariaLabel = node.label));
   view.control.value = node.selected < 0 ? undefined : String(node.selected);
   view.control.disabled = node.enabled === false;
 }

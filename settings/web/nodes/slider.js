@@ -1,4 +1,5 @@
 import { element } from '../element.js';
+import { whenDrawn } from '../kit.js';
 
 /** How many steps a key moves the knob. */
 const strides = {
@@ -49,10 +50,11 @@ function show({ field }, value) {
 
 /** The kit hides the element that is the slider; what it is called has to be told to it there. */
 function nameKnob({ range, node, footer }) {
-  const knob = range.shadowRoot.querySelector('[role=slider]');
-  if (!knob) return;
-  knob.ariaLabel = node.label;
-  knob.ariaDescription = footer?.textContent ?? null;
+  whenDrawn(range, () => {
+    const knob = range.shadowRoot.querySelector('[role=slider]');
+    knob.ariaLabel = node.label;
+    knob.ariaDescription = footer?.textContent ?? null;
+  });
 }
 
 function tell(view, context) {
@@ -64,7 +66,6 @@ function tell(view, context) {
 
 function listenToRange(view, context) {
   const { range } = view;
-  new MutationObserver(() => nameKnob(view)).observe(range.shadowRoot, { childList: true });
   range.addEventListener('ionKnobMoveStart', () => (view.moving = true));
   range.addEventListener('ionKnobMoveEnd', () => (view.moving = false));
   range.addEventListener('ionInput', () => show(view, range.value));

@@ -1,4 +1,5 @@
 import { element, setText } from '../element.js';
+import { whenDrawn } from '../kit.js';
 import { describe } from '../row.js';
 
 export function create(node, context) {
@@ -7,12 +8,15 @@ export function create(node, context) {
     { class: 'row switch', justify: 'space-between', 'aria-label': node.label }, label);
   toggle.addEventListener('ionChange', ({ detail }) =>
     context.touch({ kind: 'toggle', on: detail.checked }));
-  return { element: toggle, label, describe: (footer) => describe(toggle, footer) };
+  return {
+    element: toggle, label,
+    describe: (footer) => whenDrawn(toggle, () => describe(toggle, footer)),
+  };
 }
 
 export function update(view, node) {
   setText(view.label, node.label);
-  view.element.ariaLabel = node.label;
+  whenDrawn(view.element, () => (view.element.ariaLabel = node.label));
   view.element.dataset.key = node.key;
   view.element.checked = node.on;
   view.element.disabled = node.enabled === false;
