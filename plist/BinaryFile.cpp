@@ -14,18 +14,32 @@ bool reaches(std::uint8_t size, std::uint64_t number) {
   return size == kWidest || number >> (8 * size) == 0;
 }
 
+/// The bytes that follow the first one of an object that is not counted.
+std::uint64_t fixedSize(const Object& object) {
+  switch (object.marker) {
+    case Marker::Integer:
+    case Marker::Real:
+    case Marker::Date:
+      return std::uint64_t{1} << object.low;
+    case Marker::Uid:
+      return std::uint64_t{object.low} + 1;
+    default:
+      return 0;
+  }
+}
+
 }  // namespace
 
-File::File(std::string_view bytes) : bytes_(bytes) {
+File::File(std::string_view bytes) {
   if (bytes.size() < kMagic.size() + 1 + kTrailerSize) throw Unreadable("too short for a trailer");
   const std::size_t trailerAt = bytes.size() - kTrailerSize;
-  const std::string_view trailer = bytes.substr(trailerAt);
+  const char* const trailer = bytes.data() + trailerAt;
   // The first five bytes mean nothing, the sixth is a version that no reader looks at.
   offsetSize_ = static_cast<std::uint8_t>(trailer[6]);
   referenceSize_ = static_cast<std::uint8_t>(trailer[7]);
-  objectCount_ = bigEndian(trailer.substr(8, 8));
-  topObject_ = bigEndian(trailer.substr(16, 8));
-  const std::uint64_t tableAt = bigEndian(trailer.substr(24, 8));
+  objectCount_ = bigEndian(trailer + 8, 8);
+  topObject_ = bigEndian(trailer + 16, 8);
+  const std::uint64_t tableAt = bigEndian(trailer + 24, 8);
 
   if (!isWidth(offsetSize_)) throw Unreadable("bad width of offsets", trailerAt + 6);
   if (!isWidth(referenceSize_)) throw Unreadable("bad width of references", trailerAt + 7);
@@ -45,14 +59,17 @@ File::File(std::string_view bytes) : bytes_(bytes) {
   }
   objects_ = bytes.substr(0, tableAt);
   table_ = bytes.substr(tableAt, trailerAt - tableAt);
+  const auto setUnit = [&](Marker marker, int size) {
+    unitSize_[static_cast<std::size_t>(marker)] = static_cast<std::uint8_t>(size);
+  };
+  setUnit(Marker::Data, 1);
+  setUnit(Marker::Ascii, 1);
+  setUnit(Marker::Utf16, 2);
+  setUnit(Marker::Array, referenceSize_);
+  setUnit(Marker::Dictionary, 2 * referenceSize_);
 }
 
-std::uint64_t File::reference(const Object& container, std::uint64_t index) const {
-  const std::size_t at = index * referenceSize_;
-  const std::uint64_t number = bigEndian(container.bytes.substr(at, referenceSize_));
-  if (number >= objectCount_) throw Unreadable("reference to no object", container.offset);
-  return number;
-}
+void File::refuse(const char* reason, std::size_t offset) { throw Unreadable(reason, offset); }
 
 std::uint64_t File::readLength(std::size_t& at) const {
   const auto first = at < objects_.size() ? static_cast<std::uint8_t>(objects_[at]) : 0U;
@@ -61,38 +78,15 @@ std::uint64_t File::readLength(std::size_t& at) const {
       width > objects_.size() - at - 1) {
     throw Unreadable("bad length", at);
   }
-  const std::uint64_t length = bigEndian(objects_.substr(at + 1, width));
+  const std::uint64_t length = bigEndian(objects_.data() + at + 1, width);
   at += 1 + width;
   return length;
 }
 
-std::uint64_t File::payloadSize(const Object& object) const {
-  switch (object.marker) {
-    case Marker::Simple:
-      return 0;
-    case Marker::Integer:
-    case Marker::Real:
-    case Marker::Date:
-      return std::uint64_t{1} << object.low;
-    case Marker::Uid:
-      return std::uint64_t{object.low} + 1;
-    case Marker::Data:
-    case Marker::Ascii:
-      return object.count;
-    case Marker::Utf16:
-      return 2 * object.count;
-    case Marker::Array:
-      return object.count * referenceSize_;
-    case Marker::Dictionary:
-      return 2 * object.count * referenceSize_;
-  }
-  throw Unreadable("object of no known type", object.offset);
-}
-
 Object File::object(std::uint64_t number) const {
-  const std::size_t offset = bigEndian(table_.substr(number * offsetSize_, offsetSize_));
+  const std::size_t offset = bigEndian(table_.data() + number * offsetSize_, offsetSize_);
   if (offset < kMagic.size() || offset >= objects_.size()) {
-    throw Unreadable("object outside the file", bytes_.size() - kTrailerSize - table_.size());
+    throw Unreadable("object outside the file", objects_.size() + number * offsetSize_);
   }
   const auto first = static_cast<std::uint8_t>(objects_[offset]);
   Object object{Marker{static_cast<std::uint8_t>(first >> 4)},
@@ -101,15 +95,14 @@ Object File::object(std::uint64_t number) const {
                 first & 0xFU,
                 {}};
   std::size_t at = offset + 1;
-  const bool counted = object.marker == Marker::Data || object.marker == Marker::Ascii ||
-                       object.marker == Marker::Utf16 || object.marker == Marker::Array ||
-                       object.marker == Marker::Dictionary;
-  if (counted && object.low == kLongLength) object.count = readLength(at);
-  const std::size_t left = objects_.size() - at;
-  // No length beyond the bytes left is multiplied, so nothing overflows.
-  if (counted && object.count > left) throw Unreadable("object longer than the file", offset);
-  const std::uint64_t size = payloadSize(object);
-  if (size > left) throw Unreadable("object longer than the file", offset);
+  std::uint64_t size = fixedSize(object);
+  if (const std::uint64_t unit = unitSize_[first >> 4]; unit != 0) {
+    if (object.low == kLongLength) object.count = readLength(at);
+    // No count beyond the bytes there are is multiplied, so nothing overflows.
+    if (object.count > objects_.size()) throw Unreadable("object longer than the file", offset);
+    size = object.count * unit;
+  }
+  if (size > objects_.size() - at) throw Unreadable("object longer than the file", offset);
   object.bytes = objects_.substr(at, size);
   return object;
 }

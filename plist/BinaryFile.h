@@ -1,7 +1,10 @@
 #pragma once
 
+#include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string_view>
 
 /// The binary form, version 00, as CFBinaryPList.c of CoreFoundation describes it: objects one
@@ -37,11 +40,13 @@ struct Object {
   std::string_view bytes;  ///< What follows, exactly as long as the object says.
 };
 
-/// `bytes` as one number, the high byte first; the low 64 bits of it.
-inline std::uint64_t bigEndian(std::string_view bytes) noexcept {
-  std::uint64_t number = 0;
-  for (const char byte : bytes) number = number << 8 | static_cast<std::uint8_t>(byte);
-  return number;
+/// The number of `width` bytes at `at`, the high byte first; 8 bytes have to be readable there, as
+/// they are before the end of any trailer. A width above 8 gives none of it.
+inline std::uint64_t bigEndian(const char* at, std::size_t width) noexcept {
+  std::uint64_t number;
+  std::memcpy(&number, at, sizeof(number));
+  if constexpr (std::endian::native == std::endian::little) number = __builtin_bswap64(number);
+  return number >> (64 - 8 * width);
 }
 
 /// A file whose trailer is sound. Nothing that it hands out reaches beyond the bytes; each of its
@@ -57,19 +62,24 @@ class File {
   [[nodiscard]] Object object(std::uint64_t number) const;
 
   /// The number at `index` of the references that are a container's bytes.
-  [[nodiscard]] std::uint64_t reference(const Object& container, std::uint64_t index) const;
+  [[nodiscard]] std::uint64_t reference(const Object& container, std::uint64_t index) const {
+    const std::uint64_t number =
+        bigEndian(container.bytes.data() + index * referenceSize_, referenceSize_);
+    if (number >= objectCount_) refuse("reference to no object", container.offset);
+    return number;
+  }
 
  private:
+  [[noreturn]] static void refuse(const char* reason, std::size_t offset);
   [[nodiscard]] std::uint64_t readLength(std::size_t& at) const;
-  [[nodiscard]] std::uint64_t payloadSize(const Object& object) const;
 
-  std::string_view bytes_;
   std::string_view objects_;  // all before the table, the magic included, so offsets are the file's
   std::string_view table_;
   std::uint64_t objectCount_ = 0;
   std::uint64_t topObject_ = 0;
   std::uint8_t offsetSize_ = 0;
   std::uint8_t referenceSize_ = 0;
+  std::array<std::uint8_t, 16> unitSize_{};  // by marker: bytes for each that is counted, or none
 };
 
 }  // namespace plist::binary

@@ -24,28 +24,10 @@ class Doomed {
   Node* first_ = nullptr;
 };
 
-bool dropReference(Node* node) noexcept {
-  return node != nullptr && node->references.fetch_sub(1, std::memory_order_acq_rel) == 1;
-}
-
 }  // namespace
 
-Node* Internals::node(const Value& container) noexcept {
-  return container.kind() == Kind::Array ? static_cast<Node*>(container.payload_.array.node_)
-                                         : container.payload_.dictionary.node_;
-}
-
-Node* Internals::surrender(Value& value, BufferReturn& buffers) noexcept {
-  if (!value.shares()) return nullptr;
-  const Kind kind = value.kind();
-  Node* const child = kind >= Kind::Array ? node(value) : nullptr;
-  if (child == nullptr && kind < Kind::Array) buffers.add(value.payload_.buffer);
-  value.tag_ = 0;  // a boolean: nothing is left for its destructor
-  return dropReference(child) ? child : nullptr;
-}
-
 void Node::release() noexcept {
-  if (!dropReference(this)) return;
+  if (!drop()) return;
   Doomed doomed;
   BufferReturn buffers;
   doomed.add(this);
@@ -66,7 +48,9 @@ void Node::release() noexcept {
 }
 
 std::uint32_t DictionaryNode::slot(std::string_view key) const noexcept {
-  const auto matches = [&](std::uint32_t at) { return entries[at].key() == key; };
+  const auto matches = [&](std::uint32_t at) {
+    return Internals::slice(Internals::key(entries[at])) == key;
+  };
   if (!index_.empty()) return index_.slot(keyHash(key), matches);
   for (std::uint32_t at = 0; at < entries.size(); ++at) {
     if (matches(at)) return at + 1;
@@ -97,7 +81,7 @@ void DictionaryNode::reserve(std::size_t count) {
 }
 
 Value* DictionaryNode::add(Value key, Value value) {
-  const std::string_view text = *key.string();
+  const std::string_view text = Internals::slice(key);
   const std::size_t count = entries.size() + 1;
   if (count > kUnindexed && !index_.holds(count)) reindex(2 * count);
   if (index_.empty()) {
@@ -105,8 +89,9 @@ Value* DictionaryNode::add(Value key, Value value) {
     entries.push_back(Internals::entry(std::move(key), std::move(value)));
     return nullptr;
   }
-  std::uint32_t& place =
-      index_.slot(keyHash(text), [&](std::uint32_t at) { return entries[at].key() == text; });
+  std::uint32_t& place = index_.slot(keyHash(text), [&](std::uint32_t at) {
+    return Internals::slice(Internals::key(entries[at])) == text;
+  });
   if (place != KeyIndex::kFree) return &Internals::value(entries[place - 1]);
   entries.push_back(Internals::entry(std::move(key), std::move(value)));
   place = static_cast<std::uint32_t>(count);

@@ -18,6 +18,8 @@ struct Node {
   Node& operator=(const Node&) = delete;
 
   void retain() noexcept { references.fetch_add(1, std::memory_order_relaxed); }
+  /// Whether that was the last reference.
+  bool drop() noexcept { return references.fetch_sub(1, std::memory_order_acq_rel) == 1; }
   /// Frees the tree below as well, in a loop: however deep it is, the stack stays as it is.
   void release() noexcept;
   [[nodiscard]] bool isShared() const noexcept {
@@ -66,7 +68,9 @@ struct Internals {
 
   static Kind kind(const Value& value) noexcept { return value.kind(); }
   static std::uint64_t bits(const Value& value) noexcept { return value.payload_.bits; }
-  static std::string_view slice(const Value& value) noexcept { return value.slice(); }
+  static std::string_view slice(const Value& value) noexcept {
+    return {value.payload_.buffer->bytes.data() + value.offset_, value.tag_ & kMaxSize};
+  }
 
   /// Text or data of `size` bytes, at most kMaxSize; takes over the reference to the buffer.
   static Value slice(Kind kind, Buffer* buffer, std::uint32_t offset, std::uint32_t size) noexcept {
@@ -87,10 +91,24 @@ struct Internals {
   static Value owning(Kind kind, std::string bytes) {
     return Value::owning(kind, std::move(bytes));
   }
-  static Node* node(const Value& container) noexcept;
+  static ArrayNode& own(Array& array) { return array.own(); }
+  static Node* node(const Value& container) noexcept {
+    return container.kind() == Kind::Array ? static_cast<Node*>(container.payload_.array.node_)
+                                           : container.payload_.dictionary.node_;
+  }
 
   /// Gives up a value's reference, to `buffers` or as the answer: a node that nobody holds now.
-  static Node* surrender(Value& value, BufferReturn& buffers) noexcept;
+  static Node* surrender(Value& value, BufferReturn& buffers) noexcept {
+    if (!value.shares()) return nullptr;
+    Node* node = nullptr;
+    if (value.kind() < Kind::Array) {
+      buffers.add(value.payload_.buffer);
+    } else {
+      node = Internals::node(value);
+    }
+    value.forget();
+    return node != nullptr && node->drop() ? node : nullptr;
+  }
 };
 
 }  // namespace plist

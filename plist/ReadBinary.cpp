@@ -14,6 +14,7 @@
 namespace plist {
 namespace {
 
+using binary::bigEndian;
 using binary::File;
 using binary::Marker;
 using binary::Object;
@@ -52,13 +53,14 @@ class BinaryReader {
 
   Value readTree() {
     count(1);
-    std::optional<Value> root = read(file_.topObject());
+    Value value(false);
+    read(file_.topObject(), value);
     while (!open_.empty()) {
       if (!readElements()) continue;
-      root = close();
-      if (!open_.empty()) place(open_.back(), std::move(*root));
+      value = close();
+      if (!open_.empty()) place(open_.back(), std::move(value));
     }
-    return std::move(*root);
+    return value;
   }
 
  private:
@@ -76,10 +78,11 @@ class BinaryReader {
     if (open_.size() + more > limits_.depth) throw Unreadable("nested too deeply", offset);
   }
 
-  std::optional<Value> read(std::uint64_t number);
-  std::optional<Value> readShared(std::uint64_t number);
+  bool read(std::uint64_t number, Value& value);
+  const Value& readShared(std::uint64_t number);
   Value readKey(std::uint64_t number);
   Value readScalar(const Object& object);
+  static Value readLongInteger(const Object& object);
   static Value readUid(const Object& object);
   Value readText(const Object& object, std::uint64_t number);
   Value convert(std::string_view units);
@@ -111,36 +114,41 @@ class BinaryReader {
   std::size_t rememberedText_ = 0;
 };
 
-/// The value of an object, none if it is a container that was opened only now.
-std::optional<Value> BinaryReader::read(std::uint64_t number) {
-  if (states_[number] != kUnread) return readShared(number);
+/// Gives `value` the object; false if it is a container that was opened only now.
+bool BinaryReader::read(std::uint64_t number, Value& value) {
+  if (states_[number] != kUnread) {
+    value = readShared(number);
+    return true;
+  }
   const Object object = file_.object(number);
   switch (object.marker) {
     case Marker::Array:
     case Marker::Dictionary:
       open(object, number);
-      return {};
+      return false;
     case Marker::Ascii:
     case Marker::Utf16:
-      return readText(object, number);
+      value = readText(object, number);
+      return true;
     default:
-      return readScalar(object);
+      value = readScalar(object);
+      return true;
   }
 }
 
-std::optional<Value> BinaryReader::readShared(std::uint64_t number) {
+const Value& BinaryReader::readShared(std::uint64_t number) {
   if (states_[number] == kOpen) {
     throw Unreadable("container inside itself", file_.object(number).offset);
   }
   const Known& known = known_[states_[number] - kKnown];
   count(known.nodes);
-  checkDepth(known.height, 0);
+  checkDepth(known.height, file_.object(number).offset);
   if (!open_.empty()) open_.back().height = std::max(open_.back().height, known.height + 1);
   return known.value;
 }
 
 Value BinaryReader::readScalar(const Object& object) {
-  const std::uint64_t low = binary::bigEndian(object.bytes);
+  const auto number = [&](std::size_t size) { return bigEndian(object.bytes.data(), size); };
   const std::size_t size = object.bytes.size();
   switch (object.marker) {
     case Marker::Simple:
@@ -148,23 +156,18 @@ Value BinaryReader::readScalar(const Object& object) {
         return Value(object.low == binary::kTrue);
       }
       break;
-    case Marker::Integer: {
-      if (size < 8) return Value::integer(low);
-      if (size == 8) return Value::integer(static_cast<std::int64_t>(low));
-      if (size > 16) break;
-      // Two's complement: the high half says no more than the sign of a number in range.
-      const std::uint64_t high = binary::bigEndian(object.bytes.substr(0, 8));
-      const auto negative = static_cast<std::int64_t>(low);
-      if (high == 0) return Value::integer(low);
-      if (high == ~std::uint64_t{0} && negative < 0) return Value::integer(negative);
-      throw Unreadable("integer out of range", object.offset);
-    }
+    case Marker::Integer:
+      if (size < 8) return Value::integer(number(size));
+      if (size == 8) return Value::integer(static_cast<std::int64_t>(number(8)));
+      if (size == 16) return readLongInteger(object);
+      break;
     case Marker::Real:
-      if (size == 4) return Value::real(std::bit_cast<float>(static_cast<std::uint32_t>(low)));
-      if (size == 8) return Value::real(std::bit_cast<double>(low));
+      if (size == 4)
+        return Value::real(std::bit_cast<float>(static_cast<std::uint32_t>(number(4))));
+      if (size == 8) return Value::real(std::bit_cast<double>(number(8)));
       break;
     case Marker::Date:
-      if (size == 8) return Value::date(std::bit_cast<double>(low));
+      if (size == 8) return Value::date(std::bit_cast<double>(number(8)));
       break;
     case Marker::Uid:
       return readUid(object);
@@ -176,13 +179,25 @@ Value BinaryReader::readScalar(const Object& object) {
   throw Unreadable("object of no known type", object.offset);
 }
 
+/// Two's complement of 16 bytes, of which a number in range needs the lower half and a sign.
+Value BinaryReader::readLongInteger(const Object& object) {
+  const std::uint64_t high = bigEndian(object.bytes.data(), 8);
+  const std::uint64_t low = bigEndian(object.bytes.data() + 8, 8);
+  const auto negative = static_cast<std::int64_t>(low);
+  if (high == 0) return Value::integer(low);
+  if (high == ~std::uint64_t{0} && negative < 0) return Value::integer(negative);
+  throw Unreadable("integer out of range", object.offset);
+}
+
 Value BinaryReader::readUid(const Object& object) {
   constexpr std::size_t kBytes = sizeof(std::uint32_t);
-  const std::size_t leading = object.bytes.size() - std::min(object.bytes.size(), kBytes);
-  if (object.bytes.find_first_not_of('\0') < leading) {
+  const std::size_t width = std::min(object.bytes.size(), kBytes);
+  const std::string_view leading = object.bytes.substr(0, object.bytes.size() - width);
+  if (leading.find_first_not_of('\0') != std::string_view::npos) {
     throw Unreadable("UID out of range", object.offset);
   }
-  return Value::uid(static_cast<std::uint32_t>(binary::bigEndian(object.bytes)));
+  return Value::uid(
+      static_cast<std::uint32_t>(bigEndian(object.bytes.data() + leading.size(), width)));
 }
 
 Value BinaryReader::readText(const Object& object, std::uint64_t number) {
@@ -243,11 +258,11 @@ void BinaryReader::open(const Object& object, std::uint64_t number) {
 bool BinaryReader::readElements() {
   Open& parent = open_.back();
   const bool dictionary = parent.object.marker == Marker::Dictionary;
+  Value value(false);
   while (parent.next < parent.object.count) {
     const std::uint64_t index = dictionary ? parent.object.count + parent.next : parent.next;
-    std::optional<Value> value = read(file_.reference(parent.object, index));
-    if (!value) return false;
-    place(parent, std::move(*value));
+    if (!read(file_.reference(parent.object, index), value)) return false;
+    place(parent, std::move(value));
   }
   return true;
 }

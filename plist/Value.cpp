@@ -1,7 +1,6 @@
 #include "plist/Value.h"
 
 #include <array>
-#include <cstring>
 #include <stdexcept>
 
 #include "plist/Nodes.h"
@@ -17,11 +16,7 @@ Value::Value(Dictionary dictionary) noexcept : Value(Kind::Dictionary) {
   new (&payload_.dictionary) Dictionary(std::move(dictionary));
 }
 
-// What a representation holds is plain bits and one counted pointer: copying them and counting
-// once more is a copy, copying them and forgetting the source is a move.
-Value::Value(const Value& other) noexcept {
-  std::memcpy(static_cast<void*>(this), &other, sizeof(Value));
-  if (!shares()) return;
+void Value::retain() const noexcept {
   if (kind() < Kind::Array) {
     payload_.buffer->retain();
   } else if (Node* const node = Internals::node(*this)) {
@@ -29,21 +24,7 @@ Value::Value(const Value& other) noexcept {
   }
 }
 
-Value::Value(Value&& other) noexcept {
-  std::memcpy(static_cast<void*>(this), &other, sizeof(Value));
-  other.tag_ = 0;
-  other.payload_.bits = 0;
-}
-
-Value& Value::operator=(const Value& other) noexcept { return *this = Value(other); }
-
-Value& Value::operator=(Value&& other) noexcept {
-  const Value old(std::move(*this));  // goes last: `other` may live inside it
-  return *new (this) Value(std::move(other));
-}
-
-Value::~Value() {
-  if (!shares()) return;
+void Value::release() noexcept {
   if (kind() < Kind::Array) {
     payload_.buffer->release();
   } else if (Node* const node = Internals::node(*this)) {
@@ -69,10 +50,6 @@ Type Value::type() const noexcept {
                                         Type::Real,    Type::Date,    Type::Uid,       Type::String,
                                         Type::Data,    Type::Array,   Type::Dictionary};
   return kTypes[static_cast<std::size_t>(kind())];
-}
-
-std::string_view Value::slice() const noexcept {
-  return {payload_.buffer->bytes.data() + offset_, tag_ & kMaxSize};
 }
 
 std::optional<bool> Value::boolean() const noexcept {
@@ -102,12 +79,12 @@ std::optional<float> Value::singleReal() const noexcept {
 
 std::optional<std::string_view> Value::string() const noexcept {
   if (kind() != Kind::String) return {};
-  return slice();
+  return Internals::slice(*this);
 }
 
 std::optional<std::string_view> Value::data() const noexcept {
   if (kind() != Kind::Data) return {};
-  return slice();
+  return Internals::slice(*this);
 }
 
 std::optional<double> Value::date() const noexcept {
@@ -118,18 +95,6 @@ std::optional<double> Value::date() const noexcept {
 std::optional<std::uint32_t> Value::uid() const noexcept {
   if (kind() != Kind::Uid) return {};
   return static_cast<std::uint32_t>(payload_.bits);
-}
-
-const Array* Value::array() const noexcept {
-  return kind() == Kind::Array ? &payload_.array : nullptr;
-}
-Array* Value::array() noexcept { return kind() == Kind::Array ? &payload_.array : nullptr; }
-
-const Dictionary* Value::dictionary() const noexcept {
-  return kind() == Kind::Dictionary ? &payload_.dictionary : nullptr;
-}
-Dictionary* Value::dictionary() noexcept {
-  return kind() == Kind::Dictionary ? &payload_.dictionary : nullptr;
 }
 
 }  // namespace plist

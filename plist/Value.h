@@ -3,6 +3,8 @@
 #include <bit>
 #include <concepts>
 #include <cstdint>
+#include <cstring>
+#include <new>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -61,11 +63,24 @@ class Value {
   /// A reference of a keyed archive. XML has no form of its own for it.
   static Value uid(std::uint32_t number) noexcept { return Value(Kind::Uid, number); }
 
-  Value(const Value& other) noexcept;
-  Value(Value&& other) noexcept;
-  Value& operator=(const Value& other) noexcept;
-  Value& operator=(Value&& other) noexcept;
-  ~Value();
+  // What a representation holds is plain bits and one counted pointer: copying them and counting
+  // once more is a copy, copying them and forgetting the source is a move.
+  Value(const Value& other) noexcept {
+    std::memcpy(static_cast<void*>(this), &other, sizeof(Value));
+    if (shares()) retain();
+  }
+  Value(Value&& other) noexcept {
+    std::memcpy(static_cast<void*>(this), &other, sizeof(Value));
+    other.forget();
+  }
+  Value& operator=(const Value& other) noexcept { return *this = Value(other); }
+  Value& operator=(Value&& other) noexcept {
+    const Value old(std::move(*this));  // goes last: `other` may live inside it
+    return *new (this) Value(std::move(other));
+  }
+  ~Value() {
+    if (shares()) release();
+  }
 
   [[nodiscard]] Type type() const noexcept;
 
@@ -84,10 +99,18 @@ class Value {
   /// Seconds since 2001-01-01T00:00:00Z.
   [[nodiscard]] std::optional<double> date() const noexcept;
   [[nodiscard]] std::optional<std::uint32_t> uid() const noexcept;
-  [[nodiscard]] const Array* array() const noexcept;
-  [[nodiscard]] Array* array() noexcept;
-  [[nodiscard]] const Dictionary* dictionary() const noexcept;
-  [[nodiscard]] Dictionary* dictionary() noexcept;
+  [[nodiscard]] const Array* array() const noexcept {
+    return kind() == Kind::Array ? &payload_.array : nullptr;
+  }
+  [[nodiscard]] Array* array() noexcept {
+    return kind() == Kind::Array ? &payload_.array : nullptr;
+  }
+  [[nodiscard]] const Dictionary* dictionary() const noexcept {
+    return kind() == Kind::Dictionary ? &payload_.dictionary : nullptr;
+  }
+  [[nodiscard]] Dictionary* dictionary() noexcept {
+    return kind() == Kind::Dictionary ? &payload_.dictionary : nullptr;
+  }
 
   /// Exact: the same type, width and bits; arrays in order, dictionaries in any order.
   friend bool operator==(const Value& left, const Value& right);
@@ -126,7 +149,12 @@ class Value {
   }
   [[nodiscard]] Kind kind() const noexcept { return Kind{tag_ >> kKindShift}; }
   [[nodiscard]] bool shares() const noexcept { return kind() >= Kind::String; }
-  [[nodiscard]] std::string_view slice() const noexcept;
+  void forget() noexcept {
+    payload_.bits = 0;
+    tag_ = 0;
+  }
+  void retain() const noexcept;
+  void release() noexcept;
   static Value owning(Kind kind, std::string bytes);
 
   Payload payload_;           // the bits, or whom the value shares with

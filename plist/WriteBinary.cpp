@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <bit>
 #include <cstdint>
+#include <cstring>
 #include <utility>
 #include <vector>
 
@@ -15,22 +16,35 @@ namespace {
 using binary::Marker;
 using Kind = Internals::Kind;
 
-constexpr std::size_t kMostHeadBytes = 16;  // an object's first byte with a length or a number
-
 /// The least width, of 1, 2, 4 and 8 bytes, for numbers up to `number`.
 std::uint8_t widthFor(std::uint64_t number) {
   return std::bit_ceil(static_cast<std::uint8_t>((std::bit_width(number | 1) + 7) / 8));
 }
 
+/// Writes the low bytes of the number, the high one of them first; `width` is 1, 2, 4 or 8.
 char* put(std::uint64_t number, std::size_t width, char* out) {
-  for (std::size_t left = width; left > 0; --left) {
-    *out++ = static_cast<char>(number >> (8 * (left - 1)) & 0xFF);
+  number <<= 64 - 8 * width;
+  if constexpr (std::endian::native == std::endian::little) number = __builtin_bswap64(number);
+  // Copies of constant size are single stores.
+  switch (width) {
+    case 1:
+      std::memcpy(out, &number, 1);
+      break;
+    case 2:
+      std::memcpy(out, &number, 2);
+      break;
+    case 4:
+      std::memcpy(out, &number, 4);
+      break;
+    default:
+      std::memcpy(out, &number, 8);
   }
-  return out;
+  return out + width;
 }
 
 char* putHead(Marker marker, std::uint64_t low, char* out) {
-  return put(static_cast<std::uint64_t>(marker) << 4 | low, 1, out);
+  *out = static_cast<char>(static_cast<std::uint64_t>(marker) << 4 | low);
+  return out + 1;
 }
 
 char* putUnsigned(std::uint64_t number, char* out) {
@@ -44,16 +58,64 @@ char* putCounted(Marker marker, std::uint64_t count, char* out) {
   return putUnsigned(count, putHead(marker, binary::kLongLength, out));
 }
 
+char* putText(std::string_view text, char* out) {
+  if (isAscii(text)) {
+    out = putCounted(Marker::Ascii, text.size(), out);
+    return std::copy(text.begin(), text.end(), out);
+  }
+  return toUtf16(text, putCounted(Marker::Utf16, utf16Length(text), out));
+}
+
+std::size_t headSize(std::uint64_t count) {
+  return count < binary::kLongLength ? 1 : 2 + widthFor(count);
+}
+
+std::size_t textSize(std::string_view text) {
+  if (isAscii(text)) return headSize(text.size()) + text.size();
+  const std::size_t units = utf16Length(text);
+  return headSize(units) + 2 * units;
+}
+
+/// What an object takes in the file, but for the references of a container.
+std::size_t objectSize(const Value& value) {
+  const std::uint64_t bits = Internals::bits(value);
+  switch (Internals::kind(value)) {
+    case Kind::Boolean:
+      return 1;
+    case Kind::Integer:
+    case Kind::Uid:
+      return 1 + std::size_t{widthFor(bits)};
+    case Kind::Large:
+      return 17;
+    case Kind::Single:
+      return 5;
+    case Kind::Double:
+    case Kind::Date:
+      return 9;
+    case Kind::String:
+      return textSize(Internals::slice(value));
+    case Kind::Data:
+      return headSize(Internals::slice(value).size()) + Internals::slice(value).size();
+    case Kind::Array:
+      return headSize(value.array()->size());
+    case Kind::Dictionary:
+      return headSize(value.dictionary()->size());
+  }
+  return 0;
+}
+
 /// Numbers the objects: the root first, then the elements of each container one after another, so
 /// that the list itself is the queue of containers to go through.
 class Numbering {
  public:
   explicit Numbering(const Value& root) {
-    objects.push_back(&root);
+    next(root);
     for (std::size_t at = 0; at < objects.size(); ++at) {
       if (const Array* const array = objects[at]->array()) {
+        makeRoom(array->size());
         for (const Value& item : *array) add(item);
       } else if (const Dictionary* const dictionary = objects[at]->dictionary()) {
+        makeRoom(2 * dictionary->size());
         for (const Dictionary::Entry& entry : *dictionary) add(Internals::key(entry));
         for (const Dictionary::Entry& entry : *dictionary) add(entry.value());
       }
@@ -62,38 +124,48 @@ class Numbering {
 
   std::vector<const Value*> objects;      ///< By number.
   std::vector<std::uint32_t> references;  ///< Of all containers in their order, keys before values.
+  std::size_t size = 0;                   ///< Of the objects in bytes, but for the references.
 
  private:
   void add(const Value& value) {
-    const Kind kind = Internals::kind(value);
-    references.push_back(kind == Kind::String || kind == Kind::Data ? share(value) : next(value));
+    references.push_back(isShared(value) ? share(value) : next(value));
   }
 
   std::uint32_t next(const Value& value) {
     objects.push_back(&value);
+    size += objectSize(value);
     return static_cast<std::uint32_t>(objects.size() - 1);
+  }
+
+  /// Room for the elements of a container at once, and for more than one small container.
+  void makeRoom(std::size_t count) {
+    if (references.capacity() - references.size() >= count) return;
+    const std::size_t most = std::max(2 * references.capacity(), references.size() + count);
+    references.reserve(most);
+    objects.reserve(most + 1);
+    if (index_.holds(most)) return;
+    index_ = KeyIndex::withRoomFor(most);
+    for (std::uint32_t number = 0; number < objects.size(); ++number) {
+      if (!isShared(*objects[number])) continue;
+      index_.slot(hash(*objects[number]), [](std::uint32_t) { return false; }) = number + 1;
+    }
   }
 
   /// Text and data that values share in memory they share in the file: a file never grows by being
   /// read and written.
   std::uint32_t share(const Value& value) {
-    if (!index_.holds(shared_.size() + 1)) regrow();
-    std::uint32_t& slot = index_.slot(hash(value), [&](std::uint32_t at) {
-      const Value& other = *objects[shared_[at]];
+    std::uint32_t& slot = index_.slot(hash(value), [&](std::uint32_t number) {
+      const Value& other = *objects[number];
       return isSame(Internals::slice(other), Internals::slice(value)) &&
              Internals::kind(other) == Internals::kind(value);
     });
-    if (slot != KeyIndex::kFree) return shared_[slot - 1];
-    shared_.push_back(next(value));
-    slot = static_cast<std::uint32_t>(shared_.size());
-    return shared_.back();
+    if (slot == KeyIndex::kFree) slot = next(value) + 1;
+    return slot - 1;
   }
 
-  void regrow() {
-    index_ = KeyIndex::withRoomFor(std::max<std::size_t>(32, 4 * shared_.size()));
-    for (std::uint32_t at = 0; at < shared_.size(); ++at) {
-      index_.slot(hash(*objects[shared_[at]]), [](std::uint32_t) { return false; }) = at + 1;
-    }
+  static bool isShared(const Value& value) {
+    const Kind kind = Internals::kind(value);
+    return kind == Kind::String || kind == Kind::Data;
   }
 
   static bool isSame(std::string_view left, std::string_view right) {
@@ -103,130 +175,95 @@ class Numbering {
     return keyHash(reinterpret_cast<std::uintptr_t>(Internals::slice(value).data()));
   }
 
-  std::vector<std::uint32_t> shared_;  // numbers of the text and data
-  KeyIndex index_;
+  KeyIndex index_;  // numbers of the text and data
 };
 
+/// Fills a file whose size is known from the start, objects and table side by side.
 class BinaryWriter {
  public:
   explicit BinaryWriter(const Value& root)
       : numbering_(root),
         nextReference_(numbering_.references.begin()),
-        referenceSize_(widthFor(numbering_.objects.size())) {}
+        referenceSize_(widthFor(numbering_.objects.size())),
+        tableAt_(binary::kMagic.size() + numbering_.size +
+                 numbering_.references.size() * referenceSize_),
+        offsetSize_(widthFor(tableAt_)),
+        bytes_(tableAt_ + numbering_.objects.size() * offsetSize_ + binary::kTrailerSize, '\0') {}
 
   std::string write() && {
-    end_ = std::copy(binary::kMagic.begin(), binary::kMagic.end(), room(binary::kMagic.size()));
-    offsets_.reserve(numbering_.objects.size());
-    for (const Value* const object : numbering_.objects) {
-      offsets_.push_back(size());
-      writeObject(*object);
+    char* const start = bytes_.data();
+    char* object = std::copy(binary::kMagic.begin(), binary::kMagic.end(), start);
+    char* entry = start + tableAt_;
+    for (const Value* const value : numbering_.objects) {
+      const auto offset = static_cast<std::uint64_t>(object - start);
+      object = writeObject(*value, object);
+      entry = put(offset, offsetSize_, entry);
     }
-    writeTable();
-    bytes_.resize(size());
+    writeTrailer(entry);
     return std::move(bytes_);
   }
 
  private:
-  [[nodiscard]] std::size_t size() const { return static_cast<std::size_t>(end_ - bytes_.data()); }
+  char* writeObject(const Value& value, char* out);
+  char* writeReferences(std::size_t count, char* out);
+  void writeTrailer(char* out);
 
-  /// Where to write next, with room for `count` bytes.
-  char* room(std::size_t count) {
-    const std::size_t used = size();
-    if (bytes_.size() - used < count) {
-      bytes_.resize(std::max(2 * bytes_.size(), used + count));
-      end_ = bytes_.data() + used;
-    }
-    return end_;
-  }
-
-  void writeObject(const Value& value);
-  void writeInteger(const Value& value);
-  void writeText(std::string_view text);
-  void writeBytes(Marker marker, std::string_view bytes);
-  void writeContainer(Marker marker, std::size_t count, std::size_t references);
-  void writeTable();
-
-  std::string bytes_ = std::string(1024, '\0');
-  char* end_ = bytes_.data();  // of what is written
   Numbering numbering_;
   std::vector<std::uint32_t>::const_iterator nextReference_;
-  std::vector<std::uint64_t> offsets_;
   std::uint8_t referenceSize_;
+  std::size_t tableAt_;
+  std::uint8_t offsetSize_;
+  std::string bytes_;
 };
 
-void BinaryWriter::writeObject(const Value& value) {
+char* BinaryWriter::writeObject(const Value& value, char* out) {
   const std::uint64_t bits = Internals::bits(value);
-  char* const out = room(1 + kMostHeadBytes);
   switch (Internals::kind(value)) {
     case Kind::Boolean:
-      end_ = putHead(Marker::Simple, bits == 0 ? binary::kFalse : binary::kTrue, out);
-      break;
+      return putHead(Marker::Simple, bits == 0 ? binary::kFalse : binary::kTrue, out);
     case Kind::Integer:
-      end_ = putUnsigned(bits, out);  // negative numbers look like large ones, so take 8 bytes
-      break;
+      return putUnsigned(bits, out);  // negative numbers look like large ones, so take 8 bytes
     case Kind::Large:
       // 8 bytes are signed, so a number beyond them takes 16.
-      end_ = put(bits, 8, put(0, 8, putHead(Marker::Integer, 4, out)));
-      break;
+      return put(bits, 8, put(0, 8, putHead(Marker::Integer, 4, out)));
     case Kind::Single:
-      end_ = put(bits, 4, putHead(Marker::Real, 2, out));
-      break;
+      return put(bits, 4, putHead(Marker::Real, 2, out));
     case Kind::Double:
-      end_ = put(bits, 8, putHead(Marker::Real, 3, out));
-      break;
+      return put(bits, 8, putHead(Marker::Real, 3, out));
     case Kind::Date:
-      end_ = put(bits, 8, putHead(Marker::Date, 3, out));
-      break;
+      return put(bits, 8, putHead(Marker::Date, 3, out));
     case Kind::Uid:
-      end_ = put(bits, widthFor(bits), putHead(Marker::Uid, widthFor(bits) - 1U, out));
-      break;
+      return put(bits, widthFor(bits), putHead(Marker::Uid, widthFor(bits) - 1U, out));
     case Kind::String:
-      writeText(Internals::slice(value));
-      break;
-    case Kind::Data:
-      writeBytes(Marker::Data, Internals::slice(value));
-      break;
-    case Kind::Array:
-      writeContainer(Marker::Array, value.array()->size(), value.array()->size());
-      break;
-    case Kind::Dictionary:
-      writeContainer(Marker::Dictionary, value.dictionary()->size(),
-                     2 * value.dictionary()->size());
-      break;
+      return putText(Internals::slice(value), out);
+    case Kind::Data: {
+      const std::string_view data = Internals::slice(value);
+      return std::copy(data.begin(), data.end(), putCounted(Marker::Data, data.size(), out));
+    }
+    case Kind::Array: {
+      const std::size_t count = value.array()->size();
+      return writeReferences(count, putCounted(Marker::Array, count, out));
+    }
+    case Kind::Dictionary: {
+      const std::size_t count = value.dictionary()->size();
+      return writeReferences(2 * count, putCounted(Marker::Dictionary, count, out));
+    }
   }
+  return out;
 }
 
-void BinaryWriter::writeBytes(Marker marker, std::string_view bytes) {
-  char* const out = putCounted(marker, bytes.size(), room(kMostHeadBytes + bytes.size()));
-  end_ = std::copy(bytes.begin(), bytes.end(), out);
+char* BinaryWriter::writeReferences(std::size_t count, char* out) {
+  for (; count > 0; --count) out = put(*nextReference_++, referenceSize_, out);
+  return out;
 }
 
-void BinaryWriter::writeText(std::string_view text) {
-  if (isAscii(text)) {
-    writeBytes(Marker::Ascii, text);
-    return;
-  }
-  const std::size_t units = utf16Length(text);
-  end_ = toUtf16(text, putCounted(Marker::Utf16, units, room(kMostHeadBytes + 2 * units)));
-}
-
-void BinaryWriter::writeContainer(Marker marker, std::size_t count, std::size_t references) {
-  char* out = putCounted(marker, count, room(kMostHeadBytes + references * referenceSize_));
-  for (; references > 0; --references) out = put(*nextReference_++, referenceSize_, out);
-  end_ = out;
-}
-
-void BinaryWriter::writeTable() {
-  const std::size_t tableAt = size();
-  const std::uint8_t width = widthFor(tableAt);
-  char* out = room(offsets_.size() * width + binary::kTrailerSize);
-  for (const std::uint64_t offset : offsets_) out = put(offset, width, out);
-  out = put(0, 6, out);  // unused, and a version that no reader looks at
-  out = put(width, 1, out);
+void BinaryWriter::writeTrailer(char* out) {
+  out += 6;  // unused, and a version that no reader looks at
+  out = put(offsetSize_, 1, out);
   out = put(referenceSize_, 1, out);
-  out = put(offsets_.size(), 8, out);
+  out = put(numbering_.objects.size(), 8, out);
   out = put(0, 8, out);  // the top object
-  end_ = put(tableAt, 8, out);
+  put(tableAt_, 8, out);
 }
 
 }  // namespace
