@@ -9,6 +9,7 @@
 #include "desktop/Foundation/Values.h"
 #include "desktop/Message.h"
 #include "desktop/Phone.h"
+#include "desktop/Preferences/ListResource.h"
 #include "desktop/Preferences/SpecifierBody.h"
 #include "desktop/SettingsApplication.h"
 #include "desktop/UIKit/ControllerState.h"
@@ -203,6 +204,24 @@ plist::Dictionary Driver::file(const std::string& domain) const {
 
 std::optional<plist::Value> Driver::serviceValue(const std::string& key) const {
   return state_->phone.preferences.value(ownDomain, key);
+}
+
+void Driver::putListResource(int rows) {
+  plist::Array items;
+  for (int row = 0; row < rows; ++row) {
+    plist::Dictionary item;
+    item.set("cell", plist::Value::string("PSLinkCell"));
+    item.set("label", plist::Value::string("Row " + std::to_string(row)));
+    items.append(plist::Value(item));
+  }
+  plist::Dictionary resource;
+  resource.set("items", plist::Value(items));
+  state_->phone.folder.replace(std::string(desktop::bundleFolder) + "/Root.plist",
+                               plist::writeBinary(plist::Value(resource)));
+}
+
+void Driver::reopen() {
+  state_->application = std::make_unique<desktop::SettingsApplication>("Quillmere");
 }
 
 void Driver::withoutClass(const std::string& name) { state_->phone.missingClasses.insert(name); }

@@ -76,6 +76,12 @@ class Driver {
   /// The domain as the preferences service answers it.
   std::optional<plist::Value> serviceValue(const std::string& key) const;
 
+  /// Replaces the "Root" list resource by one of that many rows, "Row 0", "Row 1" and so on.
+  void putListResource(int rows);
+
+  /// Opens the bundle's first page anew, with a new controller.
+  void reopen();
+
   /// Makes a class unavailable, as when its library is not installed.
   void withoutClass(const std::string& name);
 
