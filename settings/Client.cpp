@@ -36,10 +36,12 @@ asio::awaitable<void> Client::run(Request handshake,
 }
 
 void Client::show(const Tree& tree) {
-  const nlohmann::json message = shown_.empty() ? screenMessage(tree) : updateMessage(shown_, tree);
-  if (message.is_null()) return;
+  if (tree != shown_) answer(tree);
+}
+
+void Client::answer(const Tree& tree) {
+  send(shown_.empty() ? screenMessage(tree) : updateMessage(shown_, tree));
   shown_ = tree;
-  send(message);
 }
 
 void Client::refuse(const std::string& reason) { send(refusedMessage(reason)); }

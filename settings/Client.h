@@ -23,8 +23,12 @@ class Client : public std::enable_shared_from_this<Client> {
   boost::asio::awaitable<void> run(Request handshake,
                                    std::function<void(std::string_view)> onMessage);
 
-  /// Brings the page to `tree`: whole at first, then only what has changed.
+  /// Brings the page to `tree`: whole at first, then by what has changed, if anything has.
   void show(const Tree& tree);
+
+  /// As `show`, in answer to a touch: also when nothing has changed, so that the page stops
+  /// showing what the finger did and shows the tree.
+  void answer(const Tree& tree);
 
   void refuse(const std::string& reason);
 

@@ -118,6 +118,7 @@ asio::awaitable<void> Server::converse(std::shared_ptr<Client> client, Request h
 void Server::touched(Client& client, std::string_view message) {
   try {
     application_.touch(message);
+    client.answer(application_.tree());
   } catch (const RefusedTouch& refused) {
     client.refuse(refused.what());
   }

@@ -16,7 +16,6 @@ json updateMessage(const Tree& before, const Tree& after) {
   for (const auto& [id, node] : before) {
     if (!after.contains(id)) removed.push_back(id);
   }
-  if (nodes.empty() && removed.empty()) return nullptr;
   return {{"kind", "update"}, {"nodes", std::move(nodes)}, {"removed", std::move(removed)}};
 }
 

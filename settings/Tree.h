@@ -13,7 +13,7 @@ using Tree = std::map<std::string, nlohmann::json>;
 /// The message that brings a page showing nothing to `tree`.
 nlohmann::json screenMessage(const Tree& tree);
 
-/// The message that brings a page showing `before` to `after`; null when nothing has changed.
+/// The message that brings a page showing `before` to `after`.
 nlohmann::json updateMessage(const Tree& before, const Tree& after);
 
 /// The message that a touch was refused, and why.
