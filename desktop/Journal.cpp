@@ -3,15 +3,11 @@
 #include <charconv>
 
 #include "desktop/Body.h"
+#include "desktop/Overloaded.h"
 
 namespace desktop {
 
 namespace {
-
-template <class... Functions>
-struct Overloaded : Functions... {
-  using Functions::operator()...;
-};
 
 std::string shortest(double number) {
   char text[32];

@@ -63,10 +63,16 @@ void writeAll(const Descriptor& file, std::string_view bytes, std::string_view p
   }
 }
 
-std::string asideName(const std::string& name) {
+/// A name that is free; it does not hold the file's, which may have the greatest length already.
+std::string asideName() {
   std::uint64_t random = 0;
-  check(static_cast<int>(getrandom(&random, sizeof random, 0)), name);
-  return "." + name + std::string(asideMark) + std::to_string(random);
+  check(static_cast<int>(getrandom(&random, sizeof random, 0)), asideMark);
+  return std::string(asideMark) + std::to_string(random);
+}
+
+bool isAsideName(std::string_view name) {
+  return name.size() > asideMark.size() && name.starts_with(asideMark) &&
+         name.find_first_not_of("0123456789", asideMark.size()) == std::string_view::npos;
 }
 
 mode_t modeOf(const Descriptor& folder, const std::string& name) {
@@ -110,7 +116,7 @@ std::optional<std::string> PhoneFolder::read(std::string_view path) const {
 void PhoneFolder::replace(std::string_view path, std::string_view bytes) const {
   const Descriptor folder = openParent(path);
   const std::string name = nameIn(path);
-  const std::string aside = asideName(name);
+  const std::string aside = asideName();
   const int number = openat(folder.number(), aside.c_str(),
                             O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
   check(number, path);
@@ -176,9 +182,7 @@ void PhoneFolder::makeLink(std::string_view path, const std::string& target) con
 void PhoneFolder::sweep(std::string_view path) const {
   const Descriptor folder = open(path, O_RDONLY | O_DIRECTORY);
   for (const std::string& name : list(path)) {
-    if (name.starts_with('.') && name.find(asideMark) != std::string::npos) {
-      unlinkat(folder.number(), name.c_str(), 0);
-    }
+    if (isAsideName(name)) unlinkat(folder.number(), name.c_str(), 0);
   }
 }
 

@@ -1,6 +1,6 @@
 #include "desktop/Cephei/PreferencesService.h"
 
-#include <system_error>
+#include <stdexcept>
 
 #include "desktop/Cephei/PendingChanges.h"
 #include "desktop/Foundation/PropertyListFile.h"
@@ -16,11 +16,17 @@ std::string pathOf(const std::string& domain) {
 
 std::string pendingPathOf(const std::string& domain) { return pathOf(domain) + ".pending"; }
 
-PendingChanges readPending(const Phone& phone, const std::string& path) {
-  const auto file = readPropertyList(phone.folder, path);
-  if (!file) return {};
-  if (auto changes = PendingChanges::fromDictionary(file->dictionary)) return *changes;
-  throw UnreadableFile("it does not hold pending changes");
+/// None when there is something in the place of the kept changes that is none.
+std::optional<PendingChanges> readPending(const Phone& phone, const std::string& path) {
+  try {
+    const auto file = readPropertyList(phone.folder, path);
+    if (!file) return PendingChanges();
+    if (auto changes = PendingChanges::fromDictionary(file->dictionary)) return changes;
+    phone.report(path + " does not hold changes: it is left as it is");
+  } catch (const UnreadableFile& reason) {
+    phone.report(path + " cannot be read (" + reason.what() + "): it is left as it is");
+  }
+  return std::nullopt;
 }
 
 }  // namespace
@@ -28,58 +34,56 @@ PendingChanges readPending(const Phone& phone, const std::string& path) {
 /// A domain as it stands on disk.
 struct PreferencesService::Domain {
   PropertyListFile file;
-  bool missing = false;
   /// Why the file cannot be read; none when it can, or is missing.
   std::optional<std::string> unreadable;
-  PendingChanges pending;
+  /// None when what is kept beside the file cannot be read.
+  std::optional<PendingChanges> pending;
 };
 
 PreferencesService::Domain PreferencesService::load(const std::string& domain) const {
   Domain state;
   state.pending = readPending(phone_, pendingPathOf(domain));
   try {
-    auto file = readPropertyList(phone_.folder, pathOf(domain));
-    state.missing = !file;
-    if (file) state.file = *std::move(file);
+    if (auto file = readPropertyList(phone_.folder, pathOf(domain))) state.file = *std::move(file);
   } catch (const UnreadableFile& reason) {
     state.unreadable = reason.what();
-    return state;
-  }
-  if (!state.pending.empty()) {
-    state.pending.applyTo(state.file.dictionary);
-    writePropertyList(phone_.folder, pathOf(domain), state.file);
-    phone_.folder.remove(pendingPathOf(domain));
-    phone_.report(pathOf(domain) + " took the changes that were kept beside it");
-    state.missing = false;
-    state.pending = {};
   }
   return state;
 }
 
+void PreferencesService::merge(const std::string& domain, Domain& state) const {
+  if (state.unreadable || !state.pending || state.pending->empty()) return;
+  state.pending->applyTo(state.file.dictionary);
+  writePropertyList(phone_.folder, pathOf(domain), state.file);
+  phone_.folder.remove(pendingPathOf(domain));
+  phone_.report(pathOf(domain) + " took the changes that were kept beside it");
+}
+
+void PreferencesService::keep(const std::string& domain, Domain& state, const std::string& key,
+                              const std::optional<plist::Value>& value) const {
+  const std::string file = pathOf(domain) + " cannot be read (" + *state.unreadable + ")";
+  if (!state.pending) throw std::runtime_error(file);
+  state.pending->add(key, value);
+  writePropertyList(phone_.folder, pendingPathOf(domain), {state.pending->toDictionary()});
+  phone_.report(file + ": it is left as it is, and " + key + " is kept in " +
+                pendingPathOf(domain));
+}
+
 std::optional<plist::Value> PreferencesService::value(const std::string& domain,
                                                       std::string_view key) const {
-  try {
-    Domain state = load(domain);
-    state.pending.applyTo(state.file.dictionary);
-    const plist::Value* found = state.file.dictionary.find(key);
-    return found ? std::optional(*found) : std::nullopt;
-  } catch (const std::exception& failure) {
-    phone_.report(pathOf(domain) + ": " + failure.what());
-    return std::nullopt;
-  }
+  settle(domain);
+  Domain state = load(domain);
+  if (state.pending) state.pending->applyTo(state.file.dictionary);
+  const plist::Value* found = state.file.dictionary.find(key);
+  return found ? std::optional(*found) : std::nullopt;
 }
 
 void PreferencesService::set(const std::string& domain, const std::string& key,
                              const std::optional<plist::Value>& value) const {
   try {
     Domain state = load(domain);
-    if (state.unreadable) {
-      state.pending.add(key, value);
-      writePropertyList(phone_.folder, pendingPathOf(domain), {state.pending.toDictionary()});
-      phone_.report(pathOf(domain) + " cannot be read (" + *state.unreadable +
-                    "): it is left as it is, and " + key + " is kept in " + pendingPathOf(domain));
-      return;
-    }
+    if (state.unreadable) return keep(domain, state, key, value);
+    merge(domain, state);
     const plist::Value* present = state.file.dictionary.find(key);
     if (value ? present && *present == *value : !present) return;
     if (value) {
@@ -95,9 +99,10 @@ void PreferencesService::set(const std::string& domain, const std::string& key,
 
 void PreferencesService::settle(const std::string& domain) const {
   try {
-    load(domain);
+    Domain state = load(domain);
+    merge(domain, state);
   } catch (const std::exception& failure) {
-    phone_.report(pendingPathOf(domain) + ": " + failure.what());
+    phone_.report(pathOf(domain) + " did not take the changes kept beside it: " + failure.what());
   }
 }
 

@@ -15,7 +15,7 @@ class Phone;
 ///
 /// A file that is there but cannot be read is never touched: changes are kept beside it, in
 /// "FILE.pending", count when values are asked for, and are merged into the file as soon as it is
-/// readable again or gone.
+/// readable again or gone. A FILE.pending that cannot be read is never touched either.
 class PreferencesService {
  public:
   explicit PreferencesService(Phone& phone) : phone_(phone) {}
@@ -35,6 +35,9 @@ class PreferencesService {
   struct Domain;
 
   Domain load(const std::string& domain) const;
+  void merge(const std::string& domain, Domain& state) const;
+  void keep(const std::string& domain, Domain& state, const std::string& key,
+            const std::optional<plist::Value>& value) const;
 
   Phone& phone_;
 };

@@ -8,6 +8,7 @@
 #include "desktop/Foundation/ArrayBody.h"
 #include "desktop/Foundation/Values.h"
 #include "desktop/Message.h"
+#include "desktop/Overloaded.h"
 #include "desktop/Phone.h"
 #include "desktop/Preferences/ListResource.h"
 #include "desktop/Preferences/SpecifierBody.h"
@@ -42,14 +43,9 @@ RowFacts factsOf(const platform::Object& object) {
   return facts;
 }
 
-template <class... Functions>
-struct Overloaded : Functions... {
-  using Functions::operator()...;
-};
-
 std::string shownBy(const desktop::AnyCell& any) {
   return std::visit(
-      Overloaded{
+      desktop::Overloaded{
           [](const desktop::SwitchCell& cell) { return std::string(cell.isOn() ? "on" : "off"); },
           [](const desktop::SliderCell& cell) { return desktop::Argument(cell.value()).text(); },
           [](const desktop::SegmentCell& cell) {
