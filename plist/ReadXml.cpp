@@ -182,6 +182,10 @@ void XmlReader::addText(std::string_view text) {
 }  // namespace
 
 Value readXml(std::string_view bytes, const Limits& limits) {
+  // Expat would take a guess.
+  if (bytes.substr(0, 2).find('\0') != std::string_view::npos) {
+    throw Unreadable("UTF-16 without a byte-order mark", 0);
+  }
   return XmlReader(bytes, limits).readTree();
 }
 

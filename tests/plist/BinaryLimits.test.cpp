@@ -1,0 +1,84 @@
+#include <gtest/gtest.h>
+
+#include "plist/Document.h"
+#include "tests/plist/Build.h"
+
+namespace plist {
+namespace {
+
+using samples::bigEndian;
+using samples::binaryFile;
+using samples::hex;
+
+/// Arrays each of which holds the next one twice: `levels` of them stand for 2^levels values.
+std::string doubling(int levels) {
+  std::vector<std::string> objects;
+  for (int i = 1; i <= levels; ++i) objects.push_back("\xA2" + std::string(2, char(i)));
+  objects.push_back(hex("09"));
+  return binaryFile(objects);
+}
+
+std::string arrayOf(std::size_t count) {
+  return hex("AF 12") + bigEndian(count, 4) + std::string(count, '\1');
+}
+
+TEST(BinaryLimit, SmallFileThatStandsForManyValuesIsUnreadable) {
+  const std::string bomb = doubling(30);
+  EXPECT_LT(bomb.size(), 300U);
+  EXPECT_THROW(read(bomb), Unreadable);
+}
+
+TEST(BinaryLimit, SharedValuesCountAtEachPlace) {
+  // 2 + 4 + ... + 1024 below the root.
+  EXPECT_NO_THROW(read(doubling(10), {.nodes = 2047}));
+  EXPECT_THROW(read(doubling(10), {.nodes = 2046}), Unreadable);
+}
+
+TEST(BinaryLimit, KeysCountAsWell) {
+  const std::string file = binaryFile({hex("D1 01 02"), hex("51 61"), hex("09")});
+  EXPECT_NO_THROW(read(file, {.nodes = 3}));
+  EXPECT_THROW(read(file, {.nodes = 2}), Unreadable);
+}
+
+TEST(BinaryLimit, WideContainerIsRefusedBeforeItIsBuilt) {
+  EXPECT_NO_THROW(read(binaryFile({arrayOf(399'999), hex("09")})));
+  EXPECT_THROW(read(binaryFile({arrayOf(400'000), hex("09")})), Unreadable);
+}
+
+TEST(BinaryLimit, InputAboveTheBoundIsUnreadable) {
+  const std::string file = binaryFile({hex("09")});
+  EXPECT_NO_THROW(read(file, {.bytes = static_cast<std::uint32_t>(file.size())}));
+  EXPECT_THROW(read(file, {.bytes = static_cast<std::uint32_t>(file.size() - 1)}), Unreadable);
+}
+
+TEST(BinaryLimit, HundredMegabytesAreUnreadable) {
+  std::string file = binaryFile({hex("4F 12 06000000") + std::string(0x6000000, 'x')});
+  EXPECT_THROW(read(std::move(file)), Unreadable);
+}
+
+TEST(BinaryLimit, SharedTextIsLookedAtOnce) {
+  // 390,000 times a megabyte would take minutes to look at.
+  const std::string text = hex("5F 12 00100000") + std::string(1 << 20, 'x');
+  const Document document = read(binaryFile({arrayOf(390'000), text}));
+  EXPECT_EQ(document.root.array()->size(), 390'000U);
+}
+
+TEST(BinaryLimit, TextsOverOneAnotherAreUnreadable) {
+  // Each text begins inside the one before: n of them would add up to n^2 bytes.
+  std::string head = "bplist00" + hex("AF 11 03E8");
+  for (int i = 1; i <= 1000; ++i) head += bigEndian(static_cast<std::uint64_t>(i), 2);
+  const std::size_t textsAt = head.size();
+  std::string texts;
+  for (int i = 0; i < 1000; ++i) texts += hex("6F 12 00000800");
+  texts += std::string(8192, '\0');
+  std::string file = head + texts;
+  const std::size_t tableAt = file.size();
+  file += bigEndian(8, 4);
+  for (std::size_t i = 0; i < 1000; ++i) file += bigEndian(textsAt + 6 * i, 4);
+  file += std::string(6, '\0') + hex("04 02") + bigEndian(1001, 8) + bigEndian(0, 8) +
+          bigEndian(tableAt, 8);
+  EXPECT_THROW(read(file), Unreadable);
+}
+
+}  // namespace
+}  // namespace plist

@@ -1,0 +1,214 @@
+#include <gtest/gtest.h>
+#include <new>
+#include <optional>
+
+#include "plist/Document.h"
+#include "tests/plist/Allocation.h"
+#include "tests/plist/Build.h"
+#include "tests/plist/Random.h"
+
+namespace plist {
+namespace {
+
+using samples::bigEndian;
+using samples::hex;
+using samples::repeated;
+
+constexpr std::size_t kMegabyte = 1024 * 1024;
+
+/// Denies each allocation of `work` in turn: it has to throw std::bad_alloc, and to leave nothing
+/// behind, until none is denied any more.
+template <typename Work>
+void denyEach(Work&& work) {
+  const std::size_t before = allocation::inUse();
+  for (std::size_t passed = 0;; ++passed) {
+    ASSERT_LT(passed, 100'000U);
+    bool threw = false;
+    allocation::denyAfter(passed);
+    try {
+      work();
+    } catch (const std::bad_alloc&) {
+      threw = true;
+    }
+    const bool denied = allocation::endDenial();
+    ASSERT_EQ(threw, denied) << "after " << passed;
+    ASSERT_EQ(allocation::inUse(), before) << "after " << passed;
+    if (!denied) break;
+  }
+}
+
+Value sample() {
+  std::mt19937_64 random(7);
+  const samples::Variety carried = {
+      .singleReals = false, .anyDates = false, .anyText = false, .uids = false};
+  Array trees;
+  for (int i = 0; i < 8; ++i) trees.append(samples::randomTree(random, carried));
+  return Value(trees);
+}
+
+TEST(DeniedMemory, ReadingBinaryIsWholeOrNothing) {
+  const Value value = sample();
+  const std::string file = writeBinary(value);
+  denyEach([&] { EXPECT_TRUE(read(file).root == value); });
+}
+
+TEST(DeniedMemory, ReadingXmlIsWholeOrNothing) {
+  const Value value = sample();
+  const std::string file = writeXml(value).value();
+  denyEach([&] { EXPECT_TRUE(read(file).root == value); });
+}
+
+TEST(DeniedMemory, RefusingIsStillARefusalOrBadAlloc) {
+  const std::string file =
+      samples::xmlFile("<array><string>a</string><integer>x</integer></array>");
+  denyEach([&] {
+    try {
+      read(file);
+      ADD_FAILURE();
+    } catch (const Unreadable&) {
+    }
+  });
+}
+
+TEST(DeniedMemory, WritingIsWholeOrNothing) {
+  const Value value = sample();
+  const std::string binary = writeBinary(value);
+  const std::string xml = writeXml(value).value();
+  denyEach([&] { EXPECT_TRUE(writeBinary(value) == binary); });
+  denyEach([&] { EXPECT_TRUE(writeXml(value) == xml); });
+  denyEach([&] { EXPECT_TRUE(write(value, Form::Xml) == xml); });
+}
+
+TEST(DeniedMemory, SettingAKeyChangesAllOrNothing) {
+  Dictionary original;
+  for (int i = 0; i < 16; ++i) original.set("key" + std::to_string(i), Value::integer(i));
+  denyEach([&] {
+    Dictionary changed = original;
+    try {
+      changed.set("a key that is new and long enough to be allocated", Value(true));
+    } catch (const std::bad_alloc&) {
+      if (changed.size() != original.size() || changed.find("key3") == nullptr) std::abort();
+      throw;
+    }
+    EXPECT_EQ(changed.size(), 17U);
+  });
+}
+
+TEST(DeniedMemory, AppendingChangesAllOrNothing) {
+  Array original;
+  original.append(Value(true));
+  denyEach([&] {
+    Array changed = original;
+    try {
+      changed.append(Value(false));
+    } catch (const std::bad_alloc&) {
+      if (changed.size() != 1) std::abort();
+      throw;
+    }
+    EXPECT_EQ(changed.size(), 2U);
+  });
+}
+
+/// A dictionary of `count` entries of UTF-16 keys and values, each text an object of its own.
+std::string manyTexts(std::uint32_t count) {
+  std::string file = "bplist00" + hex("DF 12") + bigEndian(count, 4);
+  for (std::uint32_t i = 1; i <= 2 * count; ++i) file += bigEndian(i, 3);
+  const std::size_t textsAt = file.size();
+  for (std::uint32_t i = 0; i < 2 * count; ++i) file += "\x62" + bigEndian(0x4E000000 + i, 4);
+  const std::size_t tableAt = file.size();
+  file += bigEndian(8, 3);
+  for (std::size_t i = 0; i < 2 * count; ++i) file += bigEndian(textsAt + 5 * i, 3);
+  return file + std::string(6, '\0') + hex("03 03") + bigEndian(2 * count + 1, 8) +
+         bigEndian(0, 8) + bigEndian(tableAt, 8);
+}
+
+/// Arrays of one element each below one array, in binary.
+std::string manyArrays(std::uint32_t count) {
+  std::string file = "bplist00" + hex("AF 12") + bigEndian(count, 4);
+  for (std::uint32_t i = 1; i <= count; ++i) file += bigEndian(i, 3);
+  const std::size_t arraysAt = file.size();
+  for (std::uint32_t i = 1; i <= count; ++i) file += "\xA1" + bigEndian(count + 1, 3);
+  const std::size_t trueAt = file.size();
+  file += "\x09";
+  const std::size_t tableAt = file.size();
+  file += bigEndian(8, 3);
+  for (std::size_t i = 0; i < count; ++i) file += bigEndian(arraysAt + 4 * i, 3);
+  file += bigEndian(trueAt, 3);
+  return file + std::string(6, '\0') + hex("03 03") + bigEndian(count + 2, 8) + bigEndian(0, 8) +
+         bigEndian(tableAt, 8);
+}
+
+std::string manyEntries(int count) {
+  std::string entries;
+  for (int i = 0; i < count; ++i) entries += "<key>" + std::to_string(i) + "</key><true/>";
+  return samples::xmlFile("<dict>" + entries + "</dict>");
+}
+
+struct LargeFile {
+  const char* name;
+  std::string (*make)();
+};
+
+class LargeInput : public testing::TestWithParam<LargeFile> {};
+
+// The file itself counts, since read() takes it over.
+TEST_P(LargeInput, IsReadOrRefusedWithin64Megabytes) {
+  const std::size_t before = allocation::inUse();
+  std::string file = GetParam().make();
+  file.shrink_to_fit();
+  ASSERT_LE(file.size(), 16 * kMegabyte);
+  allocation::resetPeak();
+  std::optional<Document> document;
+  try {
+    document = read(std::move(file));
+  } catch (const Unreadable&) {
+  }
+  EXPECT_LT(allocation::peak() - before, 64 * kMegabyte);
+  RecordProperty("megabytes", static_cast<int>((allocation::peak() - before) / kMegabyte));
+}
+
+constexpr std::size_t kFill = 15 * kMegabyte;
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, LargeInput,
+    testing::Values(
+        LargeFile{"Utf16Keys", [] { return manyTexts(199'000); }},
+        LargeFile{"OneUtf16Text",
+                  [] {
+                    return samples::binaryFile(
+                        {hex("6F 12") + bigEndian(kFill / 2, 4) + std::string(kFill, '\x4E')});
+                  }},
+        LargeFile{"SmallArrays", [] { return manyArrays(199'000); }},
+        LargeFile{"XmlEntries", [] { return manyEntries(199'000); }},
+        LargeFile{"XmlArrays",
+                  [] {
+                    return samples::xmlFile(
+                        "<array>" + repeated("<array><true/></array>", 199'000) + "</array>");
+                  }},
+        LargeFile{"XmlDictionaries",
+                  [] {
+                    return samples::xmlFile("<array>" +
+                                            repeated("<dict><key>a</key><true/></dict>", 133'000) +
+                                            "</array>");
+                  }},
+        LargeFile{
+            "XmlText",
+            [] { return samples::xmlFile("<string>" + std::string(kFill, 'x') + "</string>"); }},
+        LargeFile{"XmlUtf16Text",
+                  [] {
+                    return samples::utf16("<plist><string>", true) + std::string(kFill, '\x4E') +
+                           samples::utf16("</string></plist>", true).substr(2);
+                  }},
+        LargeFile{"XmlData",
+                  [] { return samples::xmlFile("<data>" + std::string(kFill, 'A') + "</data>"); }},
+        LargeFile{"XmlEndlessTag", [] { return "<plist><" + std::string(kFill, 'a'); }},
+        LargeFile{
+            "XmlEndlessAttribute",
+            [] { return "<plist version='" + std::string(kFill, 'a') + "'><true/></plist>"; }},
+        LargeFile{"XmlEndlessComment",
+                  [] { return "<!--" + std::string(kFill, 'a') + "--><plist><true/></plist>"; }},
+        LargeFile{"XmlDepth", [] { return "<plist>" + repeated("<array>", kFill / 7); }}),
+    [](const auto& test) { return test.param.name; });
+
+}  // namespace
+}  // namespace plist

@@ -1,0 +1,83 @@
+#include "tests/plist/Random.h"
+
+#include <cstdlib>
+#include <gtest/gtest.h>
+
+#include "plist/Document.h"
+#include "tests/plist/Describe.h"
+
+namespace plist {
+namespace {
+
+/// QUILLMERE_ROUNDS multiplies the work, QUILLMERE_SEED repeats a failure.
+std::uint64_t setting(const char* name, std::uint64_t otherwise) {
+  const char* const text = std::getenv(name);
+  return text == nullptr ? otherwise : std::strtoull(text, nullptr, 10);
+}
+
+class RandomTree : public testing::Test {
+ protected:
+  template <typename Check>
+  void forEach(const samples::Variety& variety, Check&& check) {
+    const std::uint64_t first = setting("QUILLMERE_SEED", std::random_device{}());
+    const std::uint64_t rounds = setting("QUILLMERE_ROUNDS", 500);
+    for (std::uint64_t seed = first; seed < first + rounds; ++seed) {
+      SCOPED_TRACE("QUILLMERE_SEED=" + std::to_string(seed));
+      std::mt19937_64 random(seed);
+      check(samples::randomTree(random, variety));
+      if (HasFailure()) break;
+    }
+  }
+};
+
+TEST_F(RandomTree, SurvivesBinaryExactly) {
+  forEach({}, [](const Value& tree) {
+    const std::string file = writeBinary(tree);
+    const Document document = read(file);
+    EXPECT_EQ(document.root, tree);
+    EXPECT_EQ(samples::describe(document.root), samples::describe(tree));  // order as well
+    EXPECT_LE(writeBinary(document.root).size(), file.size());
+  });
+}
+
+TEST_F(RandomTree, SurvivesXmlExactlyWhereXmlCarriesIt) {
+  const samples::Variety carried = {.anyDates = false, .anyText = false, .uids = false};
+  std::size_t written = 0;
+  forEach(carried, [&](const Value& tree) {
+    const auto file = writeXml(tree);
+    if (!file) return;  // a NaN with a payload
+    ++written;
+    const Document document = read(*file);
+    EXPECT_EQ(document.root, samples::widened(tree));
+    EXPECT_EQ(samples::describe(document.root), samples::describe(samples::widened(tree)));
+    EXPECT_EQ(writeXml(document.root), file);
+  });
+  EXPECT_GT(written, 0U);
+}
+
+TEST_F(RandomTree, WhateverXmlTakesItGivesBack) {
+  forEach({}, [](const Value& tree) {
+    if (const auto file = writeXml(tree)) {
+      EXPECT_EQ(read(*file).root, samples::widened(tree));
+    }
+  });
+}
+
+// Damage has to end in a refusal or in a value that survives both forms, never in anything else.
+TEST_F(RandomTree, DamagedFilesAreRefusedOrWhole) {
+  forEach({}, [](const Value& tree) {
+    std::mt19937_64 random(setting("QUILLMERE_SEED", 1));
+    std::string file = writeBinary(tree);
+    for (int i = 0; i < 20; ++i) {
+      file[random() % file.size()] = static_cast<char>(random());
+      try {
+        const Document document = read(file);
+        EXPECT_EQ(read(writeBinary(document.root)).root, document.root);
+      } catch (const Unreadable&) {
+      }
+    }
+  });
+}
+
+}  // namespace
+}  // namespace plist

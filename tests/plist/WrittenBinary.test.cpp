@@ -1,0 +1,118 @@
+#include <cmath>
+#include <gtest/gtest.h>
+
+#include "plist/Document.h"
+#include "tests/plist/Build.h"
+
+namespace plist {
+namespace {
+
+using samples::hex;
+
+constexpr std::size_t kTrailer = 32;
+
+/// The bytes of a file's only object.
+std::string object(const Value& value) {
+  const std::string file = writeBinary(value);
+  EXPECT_TRUE(file.starts_with("bplist00"));
+  return file.substr(8, file.size() - 8 - 1 - kTrailer);
+}
+
+TEST(WrittenBinary, IntegersOfTheLeastWidth) {
+  EXPECT_EQ(object(Value::integer(0)), hex("10 00"));
+  EXPECT_EQ(object(Value::integer(255)), hex("10 FF"));
+  EXPECT_EQ(object(Value::integer(256)), hex("11 0100"));
+  EXPECT_EQ(object(Value::integer(65536)), hex("12 00010000"));
+  EXPECT_EQ(object(Value::integer(4294967296)), hex("13 0000000100000000"));
+}
+
+TEST(WrittenBinary, NegativeIntegersTake8BytesAndLargeOnes16) {
+  EXPECT_EQ(object(Value::integer(-1)), hex("13 FFFFFFFFFFFFFFFF"));
+  EXPECT_EQ(object(Value::integer(UINT64_MAX)), hex("14 0000000000000000 FFFFFFFFFFFFFFFF"));
+}
+
+TEST(WrittenBinary, OtherScalars) {
+  EXPECT_EQ(object(Value(false)), hex("08"));
+  EXPECT_EQ(object(Value(true)), hex("09"));
+  EXPECT_EQ(object(Value::real(1.5F)), hex("22 3FC00000"));
+  EXPECT_EQ(object(Value::real(-0.0)), hex("23 8000000000000000"));
+  EXPECT_EQ(object(Value::date(1.5)), hex("33 3FF8000000000000"));
+  EXPECT_EQ(object(Value::uid(7)), hex("80 07"));
+  EXPECT_EQ(object(Value::uid(0x10000)), hex("83 00010000"));
+  EXPECT_EQ(object(Value::data(hex("00FF"))), hex("42 00FF"));
+}
+
+TEST(WrittenBinary, TextIsAsciiWhereItCanBe) {
+  EXPECT_EQ(object(Value::string("ab")), hex("52 6162"));
+  EXPECT_EQ(object(Value::string("\xC3\xA4"
+                                 "b")),
+            hex("62 00E4 0062"));
+  EXPECT_EQ(object(Value::string("\xF0\x9F\x98\x80")), hex("62 D83D DE00"));
+  EXPECT_EQ(object(Value::string("\xED\xA0\xBD")), hex("61 D83D"));
+}
+
+TEST(WrittenBinary, LengthsFrom15StandAfterTheMarker) {
+  EXPECT_EQ(object(Value::string(std::string(14, 'x'))), "\x5E" + std::string(14, 'x'));
+  EXPECT_EQ(object(Value::string(std::string(15, 'x'))), hex("5F 10 0F") + std::string(15, 'x'));
+}
+
+TEST(WrittenBinary, TrailerAndTable) {
+  Array array;
+  array.append(Value(true));
+  EXPECT_EQ(writeBinary(Value(array)),
+            "bplist00" + hex("A1 01 09  08 0A  000000000000 01 01 0000000000000002"
+                             "0000000000000000 000000000000000B"));
+}
+
+TEST(WrittenBinary, ReferencesGrowWhenObjectsReach256) {
+  for (const int count : {253, 254, 255, 256, 65533, 65534, 65535}) {
+    Array array;
+    for (int i = 0; i < count; ++i) array.append(Value::integer(i));
+    const std::string file = writeBinary(Value(array));
+    const int objects = count + 1;
+    EXPECT_EQ(file[file.size() - kTrailer + 7], objects < 256 ? 1 : objects < 65536 ? 2 : 4);
+    EXPECT_EQ(read(file).root, Value(array)) << count;
+  }
+}
+
+TEST(WrittenBinary, OffsetsGrowWhenTheTableStandsBeyondThem) {
+  // Magic, first byte and length take 8 + 1 + 2 and 8 + 1 + 3 bytes.
+  const auto offsetSize = [](std::size_t size) {
+    const Value data = Value::data(std::string(size, 'x'));
+    const std::string file = writeBinary(data);
+    EXPECT_EQ(read(file).root, data) << size;
+    return int{file[file.size() - kTrailer + 6]};
+  };
+  EXPECT_EQ(offsetSize(255 - 11), 1);
+  EXPECT_EQ(offsetSize(256 - 11), 2);
+  EXPECT_EQ(offsetSize(65535 - 12), 2);
+  EXPECT_EQ(offsetSize(65536 - 12), 4);
+}
+
+TEST(WrittenBinary, TextSharedInMemoryIsSharedInTheFile) {
+  const Value text = Value::string(std::string(1000, 'x'));
+  Array array;
+  for (int i = 0; i < 100; ++i) array.append(text);
+  EXPECT_LT(writeBinary(Value(array)).size(), 1400U);
+}
+
+TEST(WrittenBinary, FileDoesNotGrowByBeingReadAndWritten) {
+  std::string file = samples::binaryFile(
+      {"\xA3\x01\x01\x02", hex("5F 10 10") + std::string(16, 'k'), "\xD1\x01\x01"},
+      {.offsetSize = 1});
+  EXPECT_EQ(writeBinary(read(file).root).size(), file.size());
+}
+
+TEST(WrittenBinary, EqualTextAndDataStayApart) {
+  const Document document = read(samples::binaryFile({"\xA2\x01\x02", hex("51 61"), hex("41 61")}));
+  EXPECT_EQ(read(writeBinary(document.root)).root, document.root);
+}
+
+TEST(WrittenBinary, SameValueGivesTheSameBytes) {
+  Dictionary dictionary;
+  for (int i = 0; i < 100; ++i) dictionary.set("key" + std::to_string(i), Value::integer(i % 7));
+  EXPECT_EQ(writeBinary(Value(dictionary)), writeBinary(read(writeBinary(Value(dictionary))).root));
+}
+
+}  // namespace
+}  // namespace plist
