@@ -11,6 +11,8 @@
 namespace plist {
 namespace {
 
+constexpr std::size_t kPiece = 64 * 1024;
+
 enum class Encoding { Utf8, Utf16Little, Utf16Big };
 
 struct Mark {
@@ -51,11 +53,16 @@ class XmlReader {
   }
 
   Value readTree() {
-    // All at once: Expat then works on our bytes in place, in time linear in them.
-    const XML_Status status =
-        XML_Parse(parser_.get(), bytes_.data(), static_cast<int>(bytes_.size()), XML_TRUE);
-    if (failure_) std::rethrow_exception(failure_);
-    if (status != XML_STATUS_OK) refuse();
+    // Expat copies what it is given, so it is given little at a time.
+    for (std::size_t at = 0; at < bytes_.size() || at == 0; at += kPiece) {
+      const std::string_view piece = bytes_.substr(at, kPiece);
+      const bool isLast = at + kPiece >= bytes_.size();
+      const XML_Status status =
+          XML_Parse(parser_.get(), piece.data(), static_cast<int>(piece.size()),
+                    isLast ? XML_TRUE : XML_FALSE);
+      if (failure_) std::rethrow_exception(failure_);
+      if (status != XML_STATUS_OK) refuse();
+    }
     return tree_.take();
   }
 

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <ostream>
 
 #include "plist/Document.h"
 #include "tests/plist/Build.h"
@@ -14,6 +15,8 @@ struct Case {
   const char* name;
   std::vector<std::string> objects;
 };
+
+void PrintTo(const Case& bad, std::ostream* out) { *out << bad.name; }
 
 class BadObject : public testing::TestWithParam<Case> {};
 
@@ -56,6 +59,8 @@ struct TrailerCase {
   const char* name;
   Trailer trailer;
 };
+
+void PrintTo(const TrailerCase& bad, std::ostream* out) { *out << bad.name; }
 
 class BadTrailer : public testing::TestWithParam<TrailerCase> {};
 
