@@ -6,6 +6,7 @@
 #include <fcntl.h>
 #include <linux/openat2.h>
 #include <memory>
+#include <sys/file.h>
 #include <sys/random.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -115,6 +116,7 @@ std::optional<std::string> PhoneFolder::read(std::string_view path) const {
 
 void PhoneFolder::replace(std::string_view path, std::string_view bytes) const {
   const Descriptor folder = openParent(path);
+  flock(folder.number(), LOCK_SH);  // Keeps `sweep` away.
   const std::string name = nameIn(path);
   const std::string aside = asideName();
   const int number = openat(folder.number(), aside.c_str(),
@@ -181,6 +183,7 @@ void PhoneFolder::makeLink(std::string_view path, const std::string& target) con
 
 void PhoneFolder::sweep(std::string_view path) const {
   const Descriptor folder = open(path, O_RDONLY | O_DIRECTORY);
+  if (flock(folder.number(), LOCK_EX | LOCK_NB) < 0) return;
   for (const std::string& name : list(path)) {
     if (isAsideName(name)) unlinkat(folder.number(), name.c_str(), 0);
   }

@@ -44,7 +44,8 @@ class PhoneFolder {
   /// Makes a symbolic link at `path`, unless something stands there.
   void makeLink(std::string_view path, const std::string& target) const;
 
-  /// Deletes what an interrupted `replace` left in a folder.
+  /// Deletes what an interrupted `replace` left in a folder. Nothing happens while another program
+  /// is replacing a file there.
   void sweep(std::string_view path) const;
 
  private:

@@ -17,9 +17,6 @@ using namespace settings;
 
 namespace {
 
-constexpr const char* domain = "com.orvalen.quillmere";
-constexpr const char* preferencesFolder = "/var/mobile/Library/Preferences";
-
 bool hasDisplay() { return std::getenv("DISPLAY") || std::getenv("WAYLAND_DISPLAY"); }
 
 /// Asks the desktop to open the address; a desktop that cannot has said so itself.
@@ -44,8 +41,7 @@ std::filesystem::path phoneFolder(const Options& options) {
 void run(const Options& options) {
   desktop::Phone phone(phoneFolder(options));
   setUpPhone(phone.folder);
-  phone.folder.sweep(preferencesFolder);
-  phone.preferences.settle(domain);
+  phone.preferences.start();
   desktop::SettingsApplication application("Quillmere");
 
   boost::asio::io_context loop(1);

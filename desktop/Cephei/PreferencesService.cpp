@@ -10,11 +10,14 @@ namespace desktop {
 
 namespace {
 
-std::string pathOf(const std::string& domain) {
-  return "/var/mobile/Library/Preferences/" + domain + ".plist";
-}
+constexpr std::string_view folder = "/var/mobile/Library/Preferences/";
+constexpr std::string_view pendingEnding = ".plist.pending";
 
-std::string pendingPathOf(const std::string& domain) { return pathOf(domain) + ".pending"; }
+std::string pathOf(const std::string& domain) { return std::string(folder) + domain + ".plist"; }
+
+std::string pendingPathOf(const std::string& domain) {
+  return std::string(folder) + domain + std::string(pendingEnding);
+}
 
 /// None when there is something in the place of the kept changes that is none.
 std::optional<PendingChanges> readPending(const Phone& phone, const std::string& path) {
@@ -102,7 +105,16 @@ void PreferencesService::settle(const std::string& domain) const {
     Domain state = load(domain);
     merge(domain, state);
   } catch (const std::exception& failure) {
-    phone_.report(pathOf(domain) + " did not take the changes kept beside it: " + failure.what());
+    phone_.report(pathOf(domain) + ": " + failure.what());
+  }
+}
+
+void PreferencesService::start() const {
+  phone_.folder.sweep(folder);
+  for (const std::string& name : phone_.folder.list(folder)) {
+    if (name.ends_with(pendingEnding)) {
+      settle(name.substr(0, name.size() - pendingEnding.size()));
+    }
   }
 }
 

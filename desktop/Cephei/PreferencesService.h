@@ -20,6 +20,10 @@ class PreferencesService {
  public:
   explicit PreferencesService(Phone& phone) : phone_(phone) {}
 
+  /// Clears up after an earlier run that was cut short, and merges what it kept beside files that
+  /// are readable by now.
+  void start() const;
+
   /// The domain's value for the key; none when it has none.
   std::optional<plist::Value> value(const std::string& domain, std::string_view key) const;
 
