@@ -105,7 +105,7 @@ void PreferencesService::settle(const std::string& domain) const {
     Domain state = load(domain);
     merge(domain, state);
   } catch (const std::exception& failure) {
-    phone_.report(pathOf(domain) + ": " + failure.what());
+    phone_.report(pathOf(domain) + " did not take the changes kept beside it: " + failure.what());
   }
 }
 
