@@ -67,7 +67,7 @@ scenario('every slider follows the mouse and stores the whole number where it is
       const sent = screen.touches.length;
       await mouse.move(x, y);
       await mouse.down();
-      for (const steps of [10.3, 25.4, 20.2]) {
+      for (const steps of [18.3, 35.4, 20.2]) {
         await mouse.move(x + steps * step, y, { steps: 4 });
         await expectShown(slider, row.initial + Math.round(steps));
       }
