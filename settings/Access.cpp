@@ -46,7 +46,8 @@ std::optional<std::string_view> single(const Request& request, boost::beast::str
 }  // namespace
 
 Access::Access(std::uint16_t port)
-    : host_("127.0.0.1:" + std::to_string(port)),
+    // Browsers leave the usual port out wherever they name the host.
+    : host_(port == 80 ? "127.0.0.1" : "127.0.0.1:" + std::to_string(port)),
       origin_("http://" + host_),
       token_(secret()),
       // Browsers share cookies between the ports of a host, so each port has a name of its own.
@@ -69,7 +70,8 @@ std::optional<std::string_view> Access::refusal(const Request& request) const {
   if (isHandshake || request.count("Origin") > 0) {
     if (single(request, "Origin") != origin_) return "Other sites have no access.";
   }
-  if (const auto site = single(request, "Sec-Fetch-Site")) {
+  if (request.count("Sec-Fetch-Site") > 0) {
+    const auto site = single(request, "Sec-Fetch-Site");
     if (site != "same-origin" && site != "none") return "Other sites have no access.";
   }
   if (isInvitation(request) || showsCookie(request)) return std::nullopt;
