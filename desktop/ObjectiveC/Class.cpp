@@ -32,7 +32,7 @@ std::string nameOfClass(const platform::Object& object) {
 namespace platform {
 
 Class NSClassFromString(const NSString& name) {
-  return desktop::sendClass("NSClassFromString", ":", {name}, [&] {
+  return desktop::sendClass("objc", "NSClassFromString:", {name}, [&] {
     const std::string text = name.UTF8String();
     return desktop::isLoaded(text) && !desktop::Phone::current().missingClasses.contains(text)
                ? desktop::make<Class, desktop::ClassBody>(text)
