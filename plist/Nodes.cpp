@@ -80,20 +80,20 @@ void DictionaryNode::reserve(std::size_t count) {
   if (count > kUnindexed && !index_.holds(count)) reindex(count);
 }
 
-Value* DictionaryNode::add(Value key, Value value) {
+Value* DictionaryNode::add(Value&& key, Value&& value) {
   const std::string_view text = Internals::slice(key);
   const std::size_t count = entries.size() + 1;
   if (count > kUnindexed && !index_.holds(count)) reindex(2 * count);
   if (index_.empty()) {
     if (const std::uint32_t found = slot(text)) return &Internals::value(entries[found - 1]);
-    entries.push_back(Internals::entry(std::move(key), std::move(value)));
+    Internals::append(entries, std::move(key), std::move(value));
     return nullptr;
   }
   std::uint32_t& place = index_.slot(keyHash(text), [&](std::uint32_t at) {
     return Internals::slice(Internals::key(entries[at])) == text;
   });
   if (place != KeyIndex::kFree) return &Internals::value(entries[place - 1]);
-  entries.push_back(Internals::entry(std::move(key), std::move(value)));
+  Internals::append(entries, std::move(key), std::move(value));
   place = static_cast<std::uint32_t>(count);
   return nullptr;
 }

@@ -45,8 +45,9 @@ struct DictionaryNode : Node {
 
   [[nodiscard]] const Dictionary::Entry* find(std::string_view key) const noexcept;
   void reserve(std::size_t count);
-  /// Adds an entry unless the key is there, whose value it answers then. `key` is a string.
-  Value* add(Value key, Value value);
+  /// Adds an entry unless the key is there: then it takes neither and answers that key's value.
+  /// `key` is a string.
+  Value* add(Value&& key, Value&& value);
   void erase(std::size_t position) noexcept;
 
   std::vector<Dictionary::Entry> entries;
@@ -81,8 +82,8 @@ struct Internals {
     return value;
   }
 
-  static Dictionary::Entry entry(Value key, Value value) noexcept {
-    return {std::move(key), std::move(value)};
+  static void append(std::vector<Dictionary::Entry>& entries, Value&& key, Value&& value) {
+    entries.push_back({std::move(key), std::move(value)});
   }
   static Value& key(Dictionary::Entry& entry) noexcept { return entry.key_; }
   static const Value& key(const Dictionary::Entry& entry) noexcept { return entry.key_; }

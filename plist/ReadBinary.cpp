@@ -1,20 +1,19 @@
 #include "plist/ReadBinary.h"
 
 #include <algorithm>
-#include <bit>
 #include <deque>
 #include <optional>
 #include <utility>
 #include <vector>
 
 #include "plist/BinaryFile.h"
+#include "plist/BinaryScalars.h"
 #include "plist/Nodes.h"
 #include "plist/Text.h"
 
 namespace plist {
 namespace {
 
-using binary::bigEndian;
 using binary::File;
 using binary::Marker;
 using binary::Object;
@@ -81,14 +80,11 @@ class BinaryReader {
   bool read(std::uint64_t number, Value& value);
   const Value& readShared(std::uint64_t number);
   Value readKey(std::uint64_t number);
-  Value readScalar(const Object& object);
-  static Value readLongInteger(const Object& object);
-  static Value readUid(const Object& object);
   Value readText(const Object& object, std::uint64_t number);
   Value convert(std::string_view units);
   void open(const Object& object, std::uint64_t number);
   bool readElements();
-  void place(Open& parent, Value value);
+  void place(Open& parent, Value&& value);
   Value close();
 
   void remember(std::uint64_t number, Known known) {
@@ -130,8 +126,11 @@ bool BinaryReader::read(std::uint64_t number, Value& value) {
     case Marker::Utf16:
       value = readText(object, number);
       return true;
+    case Marker::Data:
+      value = slice(Kind::Data, object);
+      return true;
     default:
-      value = readScalar(object);
+      value = binary::readScalar(object);
       return true;
   }
 }
@@ -145,59 +144,6 @@ const Value& BinaryReader::readShared(std::uint64_t number) {
   checkDepth(known.height, file_.object(number).offset);
   if (!open_.empty()) open_.back().height = std::max(open_.back().height, known.height + 1);
   return known.value;
-}
-
-Value BinaryReader::readScalar(const Object& object) {
-  const auto number = [&](std::size_t size) { return bigEndian(object.bytes.data(), size); };
-  const std::size_t size = object.bytes.size();
-  switch (object.marker) {
-    case Marker::Simple:
-      if (object.low == binary::kFalse || object.low == binary::kTrue) {
-        return Value(object.low == binary::kTrue);
-      }
-      break;
-    case Marker::Integer:
-      if (size < 8) return Value::integer(number(size));
-      if (size == 8) return Value::integer(static_cast<std::int64_t>(number(8)));
-      if (size == 16) return readLongInteger(object);
-      break;
-    case Marker::Real:
-      if (size == 4)
-        return Value::real(std::bit_cast<float>(static_cast<std::uint32_t>(number(4))));
-      if (size == 8) return Value::real(std::bit_cast<double>(number(8)));
-      break;
-    case Marker::Date:
-      if (size == 8) return Value::date(std::bit_cast<double>(number(8)));
-      break;
-    case Marker::Uid:
-      return readUid(object);
-    case Marker::Data:
-      return slice(Kind::Data, object);
-    default:
-      break;
-  }
-  throw Unreadable("object of no known type", object.offset);
-}
-
-/// Two's complement of 16 bytes, of which a number in range needs the lower half and a sign.
-Value BinaryReader::readLongInteger(const Object& object) {
-  const std::uint64_t high = bigEndian(object.bytes.data(), 8);
-  const std::uint64_t low = bigEndian(object.bytes.data() + 8, 8);
-  const auto negative = static_cast<std::int64_t>(low);
-  if (high == 0) return Value::integer(low);
-  if (high == ~std::uint64_t{0} && negative < 0) return Value::integer(negative);
-  throw Unreadable("integer out of range", object.offset);
-}
-
-Value BinaryReader::readUid(const Object& object) {
-  constexpr std::size_t kBytes = sizeof(std::uint32_t);
-  const std::size_t width = std::min(object.bytes.size(), kBytes);
-  const std::string_view leading = object.bytes.substr(0, object.bytes.size() - width);
-  if (leading.find_first_not_of('\0') != std::string_view::npos) {
-    throw Unreadable("UID out of range", object.offset);
-  }
-  return Value::uid(
-      static_cast<std::uint32_t>(bigEndian(object.bytes.data() + leading.size(), width)));
 }
 
 Value BinaryReader::readText(const Object& object, std::uint64_t number) {
@@ -267,7 +213,7 @@ bool BinaryReader::readElements() {
   return true;
 }
 
-void BinaryReader::place(Open& parent, Value value) {
+void BinaryReader::place(Open& parent, Value&& value) {
   const std::uint64_t index = parent.next++;
   if (Array* const array = parent.value.array()) {
     array->append(std::move(value));

@@ -77,14 +77,19 @@ char* putUnit(std::uint32_t unit, char* out) {
 
 bool isAscii(std::string_view bytes) noexcept {
   constexpr std::uint64_t kHighBits = 0x8080808080808080;
-  std::uint64_t seen = 0;
-  std::size_t at = 0;
-  for (; at + sizeof(seen) <= bytes.size(); at += sizeof(seen)) {
+  constexpr std::size_t kWord = sizeof(std::uint64_t);
+  const auto wordAt = [&](std::size_t at) {
     std::uint64_t word;
-    std::memcpy(&word, bytes.data() + at, sizeof(word));
-    seen |= word;
+    std::memcpy(&word, bytes.data() + at, kWord);
+    return word;
+  };
+  std::uint64_t seen = 0;
+  if (bytes.size() < kWord) {
+    for (std::size_t at = 0; at < bytes.size(); ++at) seen |= byteAt(bytes, at);
+  } else {
+    for (std::size_t at = 0; at + kWord < bytes.size(); at += kWord) seen |= wordAt(at);
+    seen |= wordAt(bytes.size() - kWord);  // the rest, with some bytes once more
   }
-  for (; at < bytes.size(); ++at) seen |= byteAt(bytes, at);
   return (seen & kHighBits) == 0;
 }
 

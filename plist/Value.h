@@ -170,7 +170,7 @@ class Dictionary::Entry {
 
  private:
   friend struct Internals;
-  Entry(Value key, Value value) noexcept : key_(std::move(key)), value_(std::move(value)) {}
+  Entry(Value&& key, Value&& value) noexcept : key_(std::move(key)), value_(std::move(value)) {}
 
   Value key_;  // always a string
   Value value_;

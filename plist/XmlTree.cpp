@@ -135,9 +135,10 @@ void Tree::place(Value value) {
   }
   // The last of two values of one key stays, in the place of the first.
   DictionaryNode& node = Internals::own(*parent.container.dictionary());
-  if (Value* const before = node.add(*std::exchange(parent.key, {}), value)) {
+  if (Value* const before = node.add(*std::move(parent.key), std::move(value))) {
     *before = std::move(value);
   }
+  parent.key.reset();
 }
 
 }  // namespace plist::xml
