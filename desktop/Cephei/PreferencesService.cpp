@@ -19,6 +19,14 @@ std::string pendingPathOf(const std::string& domain) {
   return std::string(folder) + domain + std::string(pendingEnding);
 }
 
+/// Whether a file of that form that holds `present` holds `value`: XML has one width of real.
+bool isStoredAs(const plist::Value& present, const plist::Value& value, plist::Form form) {
+  if (form == plist::Form::Xml && value.singleReal()) {
+    return present == plist::Value::real(*value.real());
+  }
+  return present == value;
+}
+
 /// None when there is something in the place of the kept changes that is none.
 std::optional<PendingChanges> readPending(const Phone& phone, const std::string& path) {
   try {
@@ -88,7 +96,7 @@ void PreferencesService::set(const std::string& domain, const std::string& key,
     if (state.unreadable) return keep(domain, state, key, value);
     merge(domain, state);
     const plist::Value* present = state.file.dictionary.find(key);
-    if (value ? present && *present == *value : !present) return;
+    if (value ? present && isStoredAs(*present, *value, state.file.form) : !present) return;
     if (value) {
       state.file.dictionary.set(key, *value);
     } else {
