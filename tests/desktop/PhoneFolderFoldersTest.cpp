@@ -123,8 +123,8 @@ TEST_F(PhoneFolderSweep, RemovesWhatAnInterruptedReplaceLeft) {
 }
 
 TEST_F(PhoneFolderSweep, LeavesEverythingElse) {
-  const std::vector<std::string> names = {".GlobalPreferences.plist", ".aside-", ".aside-notes",
-                                          ".my.aside-1",              "a.aside-1", "notes"};
+  const std::vector<std::string> names = {
+      ".GlobalPreferences.plist", ".aside-", ".aside-notes", ".my.aside-1", "a.aside-1", "notes"};
   for (const std::string& name : names) writeBytes(file.parent_path() / name, name);
   phone->folder.sweep(preferences);
   EXPECT_EQ(namesIn(file.parent_path()), names);

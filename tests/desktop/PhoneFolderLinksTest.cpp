@@ -66,8 +66,7 @@ TEST_F(PhoneFolderLinks, ALinkPlantedAsAFolderOnTheWayIsNotFollowedOut) {
   EXPECT_THROW(phone->folder.replace(path, "new"), std::system_error);
   EXPECT_THROW(phone->folder.list("/var/mobile/Library/Preferences"), std::system_error);
   EXPECT_THROW(phone->folder.sweep("/var/mobile/Library/Preferences"), std::system_error);
-  EXPECT_THROW(phone->folder.makeLink("/var/mobile/Library/Preferences/x", "y"),
-               std::system_error);
+  EXPECT_THROW(phone->folder.makeLink("/var/mobile/Library/Preferences/x", "y"), std::system_error);
   EXPECT_THROW(phone->folder.makeFolders("/var/mobile/Library/Preferences/x"), std::system_error);
 }
 

@@ -128,8 +128,8 @@ TEST_P(OddNames, AreWrittenReadListedAndRemovedAsTheyAre) {
 
 INSTANTIATE_TEST_SUITE_P(PhoneFolder, OddNames,
                          testing::Values("nice buttons", "new\nline", "quo\"te'", "perc%40ent",
-                                         "so\xcc\x88lid", "not\xff\xfeutf8", "~tilde",
-                                         "star*?[x]", "p;pe|&$(x)", std::string(255, 'z')));
+                                         "so\xcc\x88lid", "not\xff\xfeutf8", "~tilde", "star*?[x]",
+                                         "p;pe|&$(x)", std::string(255, 'z')));
 
 TEST_F(PhoneFolderReplace, RemovesAFile) {
   writeBytes(file, "old");

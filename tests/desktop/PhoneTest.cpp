@@ -1,6 +1,7 @@
 #include "tests/desktop/PhoneTest.h"
 
 #include <algorithm>
+#include <fcntl.h>
 #include <fstream>
 #include <iterator>
 #include <sys/prctl.h>
@@ -56,7 +57,8 @@ std::string portrait(const fs::path& file) {
                      std::to_string(status.st_size) + ' ' + std::to_string(status.st_mtim.tv_sec) +
                      '.' + std::to_string(status.st_mtim.tv_nsec);
   constexpr off_t comparable = 1 << 24;
-  if (S_ISREG(status.st_mode) && status.st_size < comparable && access(file.c_str(), R_OK) == 0) {
+  const bool isReadable = faccessat(AT_FDCWD, file.c_str(), R_OK, AT_EACCESS) == 0;
+  if (S_ISREG(status.st_mode) && status.st_size < comparable && isReadable) {
     text += ' ' + bytesOf(file);
   }
   return text;
