@@ -1,7 +1,9 @@
 #include "desktop/Foundation/Values.h"
 
+#include <algorithm>
 #include <charconv>
 #include <optional>
+#include <string_view>
 
 #include "desktop/Foundation/ArrayBody.h"
 #include "desktop/Foundation/DictionaryBody.h"
@@ -34,21 +36,37 @@ std::optional<double> numberIn(const plist::Value& value) {
   return std::nullopt;
 }
 
-/// The number that a text begins with, after white space; 0 without one.
-double leadingNumber(std::string_view text) {
-  const std::size_t start = text.find_first_not_of(" \t\r\n");
-  if (start == std::string_view::npos) return 0;
-  text.remove_prefix(text[start] == '+' ? start + 1 : start);
-  double number = 0;
-  std::from_chars(text.data(), text.data() + text.size(), number);
-  return number;
+constexpr std::string_view spaces = " \t\r\n";
+constexpr std::string_view decimalDigits = "0123456789";
+
+std::string_view withoutLeading(std::string_view text, std::string_view letters) {
+  return text.substr(std::min(text.find_first_not_of(letters), text.size()));
 }
 
-/// "YES", "true", "1" and the like: by the first letter, after white space, sign and zeros.
+/// Takes a sign off the front; whether it was a minus.
+bool takeSign(std::string_view& text) {
+  const bool minus = text.starts_with('-');
+  if (minus || text.starts_with('+')) text.remove_prefix(1);
+  return minus;
+}
+
+/// The decimal number that a text begins with, after white space; 0 without one.
+double leadingNumber(std::string_view text) {
+  text = withoutLeading(text, spaces);
+  const bool minus = takeSign(text);
+  // The C++ library knows names of numbers and a sign of its own here; the platform does not.
+  if (withoutLeading(text, ".").find_first_of(decimalDigits) != 0) return 0;
+  double number = 0;
+  std::from_chars(text.data(), text.data() + text.size(), number);
+  return minus ? -number : number;
+}
+
+/// "YES", "true", "1" and the like: by the first letter, after white space, a sign and zeros.
 bool meansYes(std::string_view text) {
-  const std::size_t start = text.find_first_not_of(" \t\r\n+-0");
-  return start != std::string_view::npos &&
-         std::string_view("YyTt123456789").find(text[start]) != std::string_view::npos;
+  text = withoutLeading(text, spaces);
+  takeSign(text);
+  text = withoutLeading(text, "0");
+  return !text.empty() && std::string_view("YyTt123456789").find(text[0]) != std::string_view::npos;
 }
 
 }  // namespace
