@@ -12,6 +12,8 @@
 #include <boost/beast/http/write.hpp>
 #include <boost/beast/websocket/rfc6455.hpp>
 #include <chrono>
+#include <stdexcept>
+#include <string>
 
 #include "settings/Client.h"
 #include "settings/Site.h"
@@ -43,6 +45,15 @@ class Counted {
   std::shared_ptr<unsigned> count_;
 };
 
+tcp::acceptor listenOn(asio::io_context& loop, std::uint16_t port) {
+  try {
+    return {loop, tcp::endpoint(asio::ip::address_v4::loopback(), port)};
+  } catch (const boost::system::system_error& failure) {
+    throw std::runtime_error("port " + std::to_string(port) +
+                             " cannot be used: " + failure.code().message());
+  }
+}
+
 bool isHandshake(const Request& request) {
   return beast::websocket::is_upgrade(request) && request.target() == socketPath;
 }
@@ -51,7 +62,7 @@ bool isHandshake(const Request& request) {
 
 Server::Server(asio::io_context& loop, std::uint16_t port, Application application)
     : application_(std::move(application)),
-      acceptor_(loop, tcp::endpoint(asio::ip::address_v4::loopback(), port)),
+      acceptor_(listenOn(loop, port)),
       access_(acceptor_.local_endpoint().port()) {
   asio::co_spawn(loop, accept(), asio::detached);
 }

@@ -27,8 +27,8 @@ class Server {
     std::function<void(std::string_view message)> touch;
   };
 
-  /// Listens on the loopback address only; port 0 takes a free one. Throws
-  /// `boost::system::system_error`.
+  /// Listens on the loopback address only; port 0 takes a free one. Throws `std::runtime_error`
+  /// with a message for the user.
   Server(boost::asio::io_context& loop, std::uint16_t port, Application application);
   ~Server();
 
