@@ -100,7 +100,8 @@ bool ActionCell::isLink() const { return row().cell == PSCellType::PSLinkCell; }
 
 void ActionCell::tap() const {
   if (!row().action.empty()) perform(row().action);
-  const std::string detail = nameOfClass(row().detail);
+  // A class that no library has is none; its name still stands in the list resource's row.
+  const std::string detail = row().detail ? nameOfClass(row().detail) : text("detail");
   if (detail.empty()) return;
   auto controller = makeController(detail);
   if (!controller) {
