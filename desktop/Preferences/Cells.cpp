@@ -37,11 +37,16 @@ void SwitchCell::toggle(bool on) {
 
 SliderCell::SliderCell(platform::PSSpecifier specifier)
     : Cell(std::move(specifier)),
-      min_(doubleValue(row().property("min"))),
-      max_(row().property("max") ? doubleValue(row().property("max")) : 1),
+      min_(bound("min", 0)),
+      max_(bound("max", 1)),
       value_(doubleValue(performGetter())) {
   max_ = std::max(min_, max_);
   value_ = std::isnan(value_) ? min_ : std::clamp(value_, min_, max_);
+}
+
+double SliderCell::bound(const char* property, double otherwise) const {
+  const platform::Object given = row().property(property);
+  return given && std::isfinite(doubleValue(given)) ? doubleValue(given) : otherwise;
 }
 
 std::optional<double> SliderCell::step() const {
@@ -67,7 +72,9 @@ bool SliderCell::type(std::string_view text) {
   const auto isSpace = [](char letter) { return letter == ' ' || letter == '\t'; };
   while (!text.empty() && isSpace(text.front())) text.remove_prefix(1);
   while (!text.empty() && isSpace(text.back())) text.remove_suffix(1);
-  if (text.starts_with('+')) text.remove_prefix(1);
+  if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
+  // Names of numbers, "inf" and the like, are numbers to from_chars only.
+  if (text.find_first_not_of("-.0123456789") != std::string_view::npos) return false;
   double value = 0;
   const char* const end = text.data() + text.size();
   const auto [stop, error] = std::from_chars(text.data(), end, value, std::chars_format::fixed);

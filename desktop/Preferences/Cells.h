@@ -43,6 +43,8 @@ class SliderCell : public Cell {
   bool type(std::string_view text);
 
  private:
+  double bound(const char* property, double otherwise) const;
+
   double min_;
   double max_;
   double value_;
