@@ -67,7 +67,7 @@ scenario('every slider follows the mouse and stores the whole number where it is
       const sent = screen.touches.length;
       await mouse.move(x, y);
       await mouse.down();
-      for (const steps of [18.3, 35.4, 20.2]) {
+      for (const steps of [1.3, 3.4, 25.4, 20.2]) {
         await mouse.move(x + steps * step, y, { steps: 4 });
         await expectShown(slider, row.initial + Math.round(steps));
       }
@@ -78,6 +78,18 @@ scenario('every slider follows the mouse and stores the whole number where it is
       await expectShown(slider, row.initial + 20);
     });
   });
+
+scenario('a slider takes a movement that is but a few pixels long', {}, async (screen) => {
+  await screen.push('Clock');
+  const slider = find(screen, sliders[3]);
+  const { x, y, step } = await track(slider, sliders[3]);
+  await screen.page.mouse.move(x, y);
+  await screen.page.mouse.down();
+  await screen.page.mouse.move(x + 2.2 * step, y);
+  await screen.page.mouse.up();
+  await expectShown(slider, 52);
+  assert.deepEqual(await screen.stored(), { colonHeight: '52.0' });
+});
 
 scenario('a slider dragged beyond its track stays at its end', {}, async (screen) => {
   await screen.push('Clock');

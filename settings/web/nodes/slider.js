@@ -34,7 +34,12 @@ export function update(view, node) {
   // Phones offer no minus sign on their number pads.
   field.inputMode = node.min < 0 ? 'text' : 'decimal';
   nameKnob(view);
-  if (view.moving) return;
+  if (!view.moving) settle(view);
+}
+
+/** Puts the knob where the node says. */
+function settle(view) {
+  const { range, node } = view;
   view.told = node.value;
   range.value = node.value ?? node.min;
   show(view, node.value);
@@ -66,11 +71,34 @@ function tell(view, context) {
 
 function listenToRange(view, context) {
   const { range } = view;
-  range.addEventListener('ionKnobMoveStart', () => (view.moving = true));
-  range.addEventListener('ionKnobMoveEnd', () => (view.moving = false));
+  range.addEventListener('pointerdown', ({ button }) => button === 0 && follow(view, context));
   range.addEventListener('ionInput', () => show(view, range.value));
   range.addEventListener('ionChange', () => tell(view, context));
   range.addEventListener('keydown', (event) => step(event, view, context), { capture: true });
+}
+
+/** Follows the finger from the first pixel; the kit would not for ten, which may be eight steps. */
+function follow(view, context) {
+  if (view.range.disabled) return;
+  view.moving = true;
+  const over = new AbortController();
+  const on = (type, act) => addEventListener(type, act, { signal: over.signal });
+  const end = () => {
+    view.moving = false;
+    over.abort();
+  };
+  on('pointermove', ({ clientX }) => moveTo(view, clientX));
+  on('pointerup', () => (end(), tell(view, context)));
+  on('pointercancel', () => (end(), settle(view)));
+}
+
+function moveTo(view, x) {
+  const { range } = view;
+  const { left, width } = range.shadowRoot.querySelector('.range-slider').getBoundingClientRect();
+  const { min, max, step: size } = range;
+  const steps = Math.round(((x - left) / width) * ((max - min) / size));
+  range.value = Number(Math.min(max, Math.max(min, min + steps * size)).toFixed(6));
+  show(view, range.value);
 }
 
 /** The kit knows only arrow keys, and none of them for a slider without steps. */
