@@ -84,7 +84,7 @@ for (const [width, height] of [[320, 480], [390, 844], [700, 420], [1920, 1080]]
     });
 }
 
-/** The animations that run within half a second of an act, by the part that they move. */
+/** The animations that an act brings about, by the part that they move, in milliseconds. */
 async function motion(page, act) {
   await page.evaluate(() => {
     window.moved = new Set();
@@ -98,7 +98,6 @@ async function motion(page, act) {
     look();
   });
   await act();
-  await page.waitForTimeout(500);
   return page.evaluate(() => {
     cancelAnimationFrame(window.looking);
     return [...window.moved].sort();
@@ -134,6 +133,7 @@ scenario('those who asked for less motion get none', { look: { reducedMotion: 'r
     assert.deepEqual(await motion(screen.page, async () => {
       await screen.page.getByRole('button', { name: 'Custom Color' }).click();
       await screen.page.getByRole('button', { name: 'Done' }).click();
+      await screen.page.getByRole('dialog').waitFor({ state: 'detached' });
     }), []);
     assert.deepEqual(await motion(screen.page, () => screen.pop('Quillmere')), []);
   });
