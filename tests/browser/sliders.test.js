@@ -111,3 +111,37 @@ scenario('a tap on the track brings the knob there', {}, async (screen) => {
   await expectShown(slider, 60);
   assert.deepEqual(await screen.stored(), { clockVerticalAlignment: '60.0' });
 });
+
+/** Moves one finger over a touch screen, from a point by each of the ways in turn. */
+async function swipe({ context, page }, { x, y }, ways) {
+  const session = await context.newCDPSession(page);
+  const send = (type, touchPoints) =>
+    session.send('Input.dispatchTouchEvent', { type, touchPoints });
+  await send('touchStart', [{ x, y }]);
+  for (const [dx, dy] of ways) await send('touchMove', [{ x: x + dx, y: y + dy }]);
+  await send('touchEnd', []);
+}
+
+const small = { look: { hasTouch: true, viewport: { width: 390, height: 500 } } };
+
+scenario('a finger on a touch screen moves a slider', small, async (screen) => {
+  await screen.push('Clock');
+  const slider = find(screen, sliders[0]);
+  const from = await track(slider, sliders[0]);
+  await swipe(screen, from, [[4, 0], [12, 0], [30.2 * from.step, 0]]);
+  await expectShown(slider, 105);
+  assert.deepEqual(await screen.stored(), { clockDigitSize: '105.0' });
+});
+
+scenario('a finger that scrolls the page leaves the slider below it as it is', small,
+  async (screen) => {
+    await screen.push('Clock');
+    const slider = find(screen, sliders[0]);
+    const ways = Array.from({ length: 20 }, (_, i) => [3, -8 * i]);
+    await swipe(screen, await track(slider, sliders[0]), ways);
+    const list = screen.page.locator('.page:not([inert]) .content');
+    await eventually(async () => assert.ok(await list.evaluate((at) => at.scrollTop) > 50));
+    await expectShown(slider, 75);
+    await screen.answered();
+    assert.equal(screen.phone.bytes(), null);
+  });
