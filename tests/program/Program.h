@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <sys/types.h>
+#include <vector>
+
+namespace program_tests {
+
+/// How the program is started.
+struct Start {
+  std::vector<std::string> arguments{};
+  /// Variables to set or, with none, to remove. A display is removed unless it is named here.
+  std::map<std::string, std::optional<std::string>> environment{};
+  /// Whether root becomes nobody first, so that file modes count.
+  bool unprivileged = false;
+  enum class Output { Read, Closed, Broken } output = Output::Read;
+};
+
+/// How the program ended.
+struct End {
+  int exitCode;  ///< 128 and the signal's number when a signal ended it.
+  std::string out;
+  std::string err;
+};
+
+/// The program in a process of its own, which does not outlive this object.
+class Program {
+ public:
+  explicit Program(const Start& start);
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+  ~Program();
+
+  /// The first line on standard output, without its end; what there is of it when the program ends
+  /// or nothing comes for 30 seconds.
+  std::string firstLine();
+
+  /// Of the printed address.
+  std::uint16_t port();
+  /// The printed address without its origin: "/?token=…".
+  std::string invitation();
+
+  void signal(int number) const;
+  /// Waits for the end, 30 seconds at most; then it is killed.
+  End end();
+
+ private:
+  /// Takes what comes on either stream; false when both are at their end or after the time.
+  bool readSome(int milliseconds);
+
+  pid_t process_ = -1;
+  int streams_[2] = {-1, -1};
+  std::string texts_[2];
+};
+
+End run(const Start& start);
+
+}  // namespace program_tests

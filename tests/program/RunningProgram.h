@@ -1,0 +1,38 @@
+#pragma once
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <string>
+
+#include "tests/program/Connection.h"
+#include "tests/program/Program.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace program_tests {
+
+/// The program over a new phone folder, and the cookie that its invitation gave. At the end the
+/// program has to answer still, and to end well.
+class RunningProgram : public testing::Test {
+ protected:
+  RunningProgram();
+  void TearDown() override;
+
+  /// A GET of that path with the cookie; the whole response.
+  std::string get(const std::string& path) const;
+
+  /// The text with {HOST}, {ORIGIN}, {COOKIE} and {TOKEN} replaced by what is right.
+  std::string filled(std::string text) const;
+
+  std::filesystem::path preferences() const {
+    return folder.path / "var/mobile/Library/Preferences/com.orvalen.quillmere.plist";
+  }
+
+  const support::TemporaryFolder folder;
+  Program program{{{"--root", folder.path.string()}}};
+  const std::uint16_t port = program.port();
+  const std::string invitation = program.invitation();
+  const std::string host = "127.0.0.1:" + std::to_string(port);
+  std::string cookie;
+};
+
+}  // namespace program_tests
