@@ -13,12 +13,17 @@ ParsedOptions parseOptions(int argc, const char* const* argv) {
   bool noOpen = false;
   CLI::App app("Quillmere's settings, on a desktop: a stand-in phone, shown in a browser.",
                "./run");
+  // An empty value, of an unset variable most likely, would otherwise count as none.
+  const CLI::Validator something(
+      [](const std::string& value) { return value.empty() ? "a value is missing" : ""; }, "");
   app.add_option("--root", root,
                  "The folder that stands in for the phone's file system\n"
                  "(default: quillmere/phone in your data folder)")
-      ->type_name("DIR");
+      ->type_name("DIR")
+      ->check(something);
   app.add_option("--port", options.port, "The port to listen on; 0, the default, takes a free one")
-      ->type_name("N");
+      ->type_name("N")
+      ->check(something);
   app.add_flag("--no-open", noOpen, "Do not open a browser");
   try {
     app.parse(argc, argv);
