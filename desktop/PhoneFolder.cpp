@@ -166,9 +166,9 @@ std::vector<std::string> PhoneFolder::list(std::string_view path) const {
 void PhoneFolder::makeFolders(std::string_view path) const {
   for (std::size_t end = path.find('/', 1);; end = path.find('/', end + 1)) {
     const std::string_view folder = path.substr(0, end);
-    if (!exists(folder)) {
-      const Descriptor parent = openParent(folder);
-      check(mkdirat(parent.number(), nameIn(folder).c_str(), 0755), folder);
+    const Descriptor parent = openParent(folder);
+    if (mkdirat(parent.number(), nameIn(folder).c_str(), 0755) < 0 && errno != EEXIST) {
+      fail(folder);
     }
     if (end == std::string_view::npos) break;
   }

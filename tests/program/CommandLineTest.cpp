@@ -87,15 +87,18 @@ TEST_F(CommandLine, ListensOnThePortItIsTold) {
   EXPECT_EQ(told.port(), port);
 }
 
-TEST_F(CommandLine, TwoProgramsShareOneFolder) {
-  Program first({atRoot()});
-  Program second({atRoot()});
-  EXPECT_NE(first.port(), second.port());
-  for (Program* program : {&first, &second}) {
-    program->signal(SIGTERM);
-    const End end = program->end();
-    EXPECT_EQ(end.exitCode, 0);
-    EXPECT_EQ(end.err, "");
+TEST_F(CommandLine, TwoProgramsThatStartAtOnceShareANewFolder) {
+  for (int round = 0; round < 10; ++round) {
+    const Start start{{"--root", (folder.path / std::to_string(round)).string()}};
+    Program first(start);
+    Program second(start);
+    EXPECT_NE(first.port(), second.port());
+    for (Program* program : {&first, &second}) {
+      program->signal(SIGTERM);
+      const End end = program->end();
+      EXPECT_EQ(end.exitCode, 0) << end.err;
+      EXPECT_EQ(end.err, "");
+    }
   }
 }
 
@@ -134,6 +137,15 @@ TEST_P(WithoutReader, TheProgramServesAllTheSame) {
   const End end = program.end();
   EXPECT_EQ(end.exitCode, 0) << end.err;
   EXPECT_EQ(end.err, "");
+}
+
+TEST_F(CommandLine, WhatIsPrintedNeverGoesIntoAFileThatTookAClosedStreamsNumber) {
+  const std::string port = freePort(atRoot());
+  Start start{atRoot({"--port", port})};
+  start.output = Start::Output::Closed;
+  const Program program(start);
+  EXPECT_TRUE(answers(port));
+  EXPECT_EQ(program.openFile(1), "/dev/null");
 }
 
 INSTANTIATE_TEST_SUITE_P(CommandLine, WithoutReader,
