@@ -30,6 +30,7 @@ plist::Dictionary dictionaryAt(const std::string& path) {
 /// The name of the bundle whose loader entry has this label.
 std::string bundleLabelled(const std::string& label) {
   for (const std::string& name : Phone::current().folder.list(loaderFolder)) {
+    if (!name.ends_with(".plist")) continue;
     const plist::Dictionary file = dictionaryAt(std::string(loaderFolder) + "/" + name);
     const plist::Value* entry = file.find("entry");
     if (!entry || !entry->dictionary() || textAt(*entry->dictionary(), "label") != label) continue;

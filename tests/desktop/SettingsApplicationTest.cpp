@@ -65,6 +65,14 @@ TEST_F(SettingsApplicationTest, FindsItsEntryAmongOthers) {
   EXPECT_EQ(failure(), "");
 }
 
+TEST_F(SettingsApplicationTest, LooksIntoPropertyListsOnly) {
+  for (const char* name : {".aside-1", "Notes.txt", "plist"}) writeBytes(loader / name, "half");
+  EXPECT_EQ(failure(), "");
+  fs::remove(loader / "Addon.plist");
+  EXPECT_NE(failure(), "");
+  EXPECT_EQ(reports, std::vector<std::string>{});
+}
+
 TEST_F(SettingsApplicationTest, SaysThatTheEntryIsMissing) {
   fs::remove(loader / "Addon.plist");
   EXPECT_EQ(failure(), "no entry in /Library/PreferenceLoader/Preferences is labelled Addon");
