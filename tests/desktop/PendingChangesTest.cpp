@@ -84,6 +84,28 @@ TEST_F(PendingFile, StaysWhenTheFolderTakesNoFiles) {
   EXPECT_EQ(portrait(pendingFile), before);
 }
 
+TEST_F(PendingFile, OfEveryDomainIsMergedAtTheStart) {
+  for (const char* each : {"com.example.addon", "com.example.other"}) {
+    const fs::path plist = file.parent_path() / (std::string(each) + ".plist");
+    writeBytes(plist, "bad");
+    phone->preferences.set(each, "key", Value(true));
+    fs::remove(plist);
+  }
+  restart();
+  phone->preferences.start();
+  EXPECT_EQ(namesIn(file.parent_path()),
+            (std::vector<std::string>{"com.example.addon.plist", "com.example.other.plist"}));
+}
+
+TEST_F(PendingFile, StaysAtTheStartBesideABadFile) {
+  writeBytes(file, "bad");
+  set("key", Value(true));
+  const std::string before = portrait(pendingFile);
+  restart();
+  phone->preferences.start();
+  EXPECT_EQ(portrait(pendingFile), before);
+}
+
 /// In the place of the kept changes stands something that holds none.
 class CorruptPendingFile : public PendingFile, public testing::WithParamInterface<BadFile> {
  protected:

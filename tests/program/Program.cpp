@@ -7,6 +7,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
+#include <filesystem>
 #include <grp.h>
 #include <poll.h>
 #include <stdexcept>
@@ -119,6 +120,11 @@ std::uint16_t Program::port() {
 std::string Program::invitation() {
   const std::string line = firstLine();
   return line.substr(std::min(line.find("/?"), line.size()));
+}
+
+std::string Program::openFile(int number) const {
+  return std::filesystem::read_symlink("/proc/" + std::to_string(process_) + "/fd/" +
+                                       std::to_string(number));
 }
 
 void Program::signal(int number) const { kill(process_, number); }

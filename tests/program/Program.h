@@ -43,6 +43,9 @@ class Program {
   /// The printed address without its origin: "/?token=…".
   std::string invitation();
 
+  /// What the program has open under that number.
+  std::string openFile(int number) const;
+
   void signal(int number) const;
   /// Waits for the end, 30 seconds at most; then it is killed.
   End end();

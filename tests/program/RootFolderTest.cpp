@@ -114,6 +114,27 @@ TEST_F(RootFolder, WithABrokenLoaderEntryOfAnotherBundleIsServedWithAReport) {
   EXPECT_EQ(end.exitCode, 0);
 }
 
+TEST_F(RootFolder, TakesAtItsStartWhatAnEarlierRunKeptBesideABadFile) {
+  const fs::path preferences = folder.path / "var/mobile/Library/Preferences";
+  fs::create_directories(preferences);
+  std::ofstream(preferences / "com.orvalen.quillmere.plist.pending")
+      << "<plist><dict><key>set</key><dict><key>colorMode</key><integer>2</integer></dict>"
+         "<key>removed</key><dict/></dict></plist>";
+  const End end = visit({{"--root", folder.path.string()}});
+  EXPECT_NE(end.err.find("took the changes"), std::string::npos) << end.err;
+  EXPECT_TRUE(fs::exists(preferences / "com.orvalen.quillmere.plist"));
+  EXPECT_FALSE(fs::exists(preferences / "com.orvalen.quillmere.plist.pending"));
+}
+
+TEST_F(RootFolder, WithABadPreferencesFileIsServedAndTheFileLeft) {
+  const fs::path preferences = folder.path / "var/mobile/Library/Preferences";
+  fs::create_directories(preferences);
+  std::ofstream(preferences / "com.orvalen.quillmere.plist") << "bad";
+  const End end = visit({{"--root", folder.path.string()}});
+  EXPECT_EQ(end.exitCode, 0) << end.err;
+  EXPECT_EQ(fs::file_size(preferences / "com.orvalen.quillmere.plist"), 3U);
+}
+
 TEST_F(RootFolder, WithAFileWhereAFolderBelongsIsRefused) {
   std::ofstream(folder.path / "Library") << "mine";
   expectRefused({{"--root", folder.path.string()}}, "/Library");
