@@ -109,8 +109,8 @@ scenario('all that can be touched is at least 44 pixels high and wide', {}, asyn
     for (const role of operable) {
       for (const target of await screen.page.getByRole(role).all()) {
         const { width, height } = await target.boundingBox();
-        const name = `${title}: ${role} ${await target.evaluate((it) => it.outerHTML.slice(0, 90))}`;
-        assert.ok(width >= 44 && height >= 44, `${name} is ${width} x ${height}`);
+        assert.ok(width >= 44 && height >= 44,
+          `${title}: ${await target.innerText()} (${role}) is ${width} x ${height}`);
       }
     }
     if (title !== 'Quillmere') await screen.pop('Quillmere');

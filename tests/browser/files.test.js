@@ -67,7 +67,7 @@ scenario('a slider stores a real of single width', {}, async (screen) => {
   await screen.group('Size').getByRole('textbox').fill('80');
   await screen.page.keyboard.press('Enter');
   await screen.answered();
-  // In a binary property list 0x22 marks a real of 2^2 bytes; then follows 80.0, biggest byte first.
+  // In a binary property list 0x22 marks a real of 2^2 bytes; 80.0 follows, biggest byte first.
   assert.ok(screen.phone.bytes().includes(Buffer.from('2242a00000', 'hex')));
 });
 

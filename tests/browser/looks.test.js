@@ -34,12 +34,9 @@ for (const [colorScheme, { canvas, card }] of Object.entries(schemes)) {
       await screen.push('Clock');
       const { page } = screen;
       assert.equal(await style(page.getByRole('button', { name: 'Quillmere' }), 'color'), white);
-      assert.equal(
-        await style(page.locator('ion-toggle').first().locator('.toggle-icon-wrapper').locator('..'),
-          'backgroundColor'), accent);
-      assert.equal(
-        await style(page.locator('ion-range').first().locator('.range-bar-active'),
-          'backgroundColor'), accent);
+      for (const part of ['ion-toggle .toggle-icon', 'ion-range .range-bar-active']) {
+        assert.equal(await style(page.locator(part).first(), 'backgroundColor'), accent, part);
+      }
       assert.equal(await style(page.locator('.value').first(), 'color'), accent);
     });
 }
@@ -75,7 +72,8 @@ for (const [width, height] of [[320, 480], [390, 844], [700, 420], [1920, 1080]]
       for (const title of ['Quillmere', 'Clock', 'Quick Actions', 'Color']) {
         if (title !== 'Quillmere') await screen.push(title);
         const overflowing = await screen.page.evaluate(() =>
-          [...document.querySelectorAll('html, .page:not([inert]) :is(.content, .bar, .row, .label)')]
+          [document.documentElement,
+           ...document.querySelectorAll('.page:not([inert]) :is(.content, .bar, .row, .label)')]
             .filter((part) => part.scrollWidth > part.clientWidth + 1)
             .map((part) => `${part.className} ${part.textContent}`));
         assert.deepEqual(overflowing, [], title);
@@ -104,20 +102,21 @@ async function motion(page, act) {
   });
 }
 
+const moving = { look: { reducedMotion: 'no-preference' } };
 const sliding = ['bar 350', 'content 350', 'leading 350', 'title 350'];
 
-scenario('pages slide in and out', {}, async (screen) => {
+scenario('pages slide in and out', moving, async (screen) => {
   assert.deepEqual(await motion(screen.page, () => screen.push('Clock')), sliding);
   assert.deepEqual(await motion(screen.page, () => screen.pop('Quillmere')), sliding);
 });
 
-scenario('pages come from the right', {}, async (screen) => {
+scenario('pages come from the right', moving, async (screen) => {
   await screen.page.getByRole('link', { name: 'Color' }).click();
   const list = screen.page.locator('.page').nth(1).locator('.content');
   const positions = await list.evaluate(async (content) => {
     const seen = [];
     while (content.getAnimations().length > 0) {
-      seen.push(content.getBoundingClientRect().x - content.parentElement.getBoundingClientRect().x);
+      seen.push(content.getBoundingClientRect().x);
       await new Promise(requestAnimationFrame);
     }
     return seen;

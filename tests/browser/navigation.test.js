@@ -32,6 +32,8 @@ const pages = {
   ],
 };
 
+const moving = { look: { reducedMotion: 'no-preference' } };
+
 function shown(page) {
   return page.locator('.page:not([inert]) .group').evaluateAll((groups) => {
     const text = (part) =>
@@ -42,7 +44,7 @@ function shown(page) {
   });
 }
 
-scenario('the root page and the three behind it show their groups, rows and footers', {},
+scenario('the root page and the three behind it show their groups, rows and footers', moving,
   async (screen) => {
     assert.deepEqual(await shown(screen.page), pages.Quillmere);
     for (const name of ['Clock', 'Quick Actions', 'Color']) {
@@ -53,7 +55,7 @@ scenario('the root page and the three behind it show their groups, rows and foot
     }
   });
 
-scenario('a link tapped twice opens its page once', {}, async (screen) => {
+scenario('a link tapped twice opens its page once', moving, async (screen) => {
   await screen.page.getByRole('link', { name: 'Clock' }).evaluate((row) => {
     row.click();
     row.click();
@@ -64,7 +66,7 @@ scenario('a link tapped twice opens its page once', {}, async (screen) => {
   assert.equal(await screen.page.locator('.page').count(), 1);
 });
 
-scenario('going back before the page has come to rest ends on the page below', {},
+scenario('going back before the page has come to rest ends on the page below', moving,
   async (screen) => {
     await screen.page.getByRole('link', { name: 'Color' }).click();
     await screen.page.getByRole('button', { name: 'Quillmere' }).evaluate((back) => back.click());

@@ -36,10 +36,13 @@ async function take(browser, name, colorScheme) {
     await ways[name](screen);
     // The ring round what has the keyboard belongs to no picture.
     await screen.page.evaluate(() => document.activeElement.blur());
-    const { x, y, width, height } = await screen.page.locator('.phone').boundingBox();
+    const box = await screen.page.locator('.phone').boundingBox();
     return await screen.page.screenshot({
       path: join(folder, 'screenshots', `${name}-${colorScheme}.png`),
-      clip: { x: x - margin, y: y - margin, width: width + 2 * margin, height: height + 2 * margin },
+      clip: {
+        x: box.x - margin, y: box.y - margin,
+        width: box.width + 2 * margin, height: box.height + 2 * margin,
+      },
     });
   } finally {
     await screen.close();
