@@ -89,6 +89,7 @@ TEST_F(RootFolder, ThatMayNotBeReachedIsRefused) {
   Start start{{"--root", (folder.path / "closed/phone").string()}};
   start.unprivileged = true;
   expectRefused(start, "closed/phone");
+  fs::permissions(folder.path / "closed", fs::perms::owner_all);
 }
 
 TEST_F(RootFolder, IsInTheDataFolderByDefault) {
