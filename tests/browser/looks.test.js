@@ -62,7 +62,8 @@ scenario('a wide window shows a phone, a narrow one only its screen', {}, async 
   assert.notEqual(await style(page.locator('.display'), 'borderRadius'), '0px');
 
   await page.setViewportSize({ width: 500, height: 800 });
-  assert.deepEqual(await box('.display'), { x: 0, y: 0, width: 500, height: 800 });
+  await eventually(async () =>
+    assert.deepEqual(await box('.display'), { x: 0, y: 0, width: 500, height: 800 }));
   assert.equal(await style(page.locator('.display'), 'borderRadius'), '0px');
 });
 
