@@ -81,7 +81,7 @@ scenario('the policy holds: no script or style of the page\'s text is taken',
 scenario('nothing but the page\'s own files is served', {}, async (screen) => {
   const cookie = await cookieHeader(screen);
   const phone = '/var/mobile/Library/Preferences/com.orvalen.quillmere.plist';
-  screen.phone.store("{'clockEnabled': True}");
+  await screen.phone.store("{'clockEnabled': True}");
   const paths = [
     '/../settings/web/index.html', '/..', '/nodes/../app.js', '/%2e%2e/etc/passwd',
     '/..%2f..%2fetc/passwd', '/..\\..\\etc\\passwd', '/etc/passwd', '//etc/passwd',

@@ -39,7 +39,8 @@ scenario('a program started anew on the same port has to be opened anew', { erro
     await screen.page.goto(screen.program.invitation.href);
     await screen.push('Clock');
     await screen.group('Clock').getByRole('switch').click();
-    await eventually(() => assert.deepEqual(screen.phone.stored(), { clockEnabled: 'False' }));
+    await eventually(async () =>
+      assert.deepEqual(await screen.phone.stored(), { clockEnabled: 'False' }));
   });
 
 /** A scenario whose browser reaches the program over a wire. */
@@ -64,7 +65,7 @@ wired('a broken connection mends itself and brings what has changed meanwhile',
     const field = screen.group('Size').getByRole('textbox');
     wire.cut();
     await says(screen, lost);
-    screen.phone.store("{'clockDigitSize': 111.0}");
+    await screen.phone.store("{'clockDigitSize': 111.0}");
     wire.mend();
     await says(screen, '');
     await screen.pop('Quillmere');

@@ -42,11 +42,11 @@ for (const [form, beginning] of Object.entries(beginnings)) {
   for (const [what, [key, value, change]] of Object.entries(changes)) {
     scenario(`${what} changes its own key in a file of form ${form} and nothing else`,
       { values: `{${others}}`, form }, async (screen) => {
-        const before = screen.phone.stored();
+        const before = await screen.phone.stored();
         await change(screen);
         await screen.answered();
-        assert.deepEqual(screen.phone.stored(), { ...before, [key]: value });
-        assert.deepEqual(screen.phone.storedAsSeenByPlistutil(), { ...before, [key]: value });
+        assert.deepEqual(await screen.phone.stored(), { ...before, [key]: value });
+        assert.deepEqual(await screen.phone.storedAsSeenByPlistutil(), { ...before, [key]: value });
         assert.ok(screen.phone.bytes().toString('latin1').startsWith(beginning));
       });
   }
@@ -57,8 +57,8 @@ for (const [what, [key, value, change]] of Object.entries(changes)) {
     assert.equal(screen.phone.bytes(), null, 'looking makes no file');
     await change(screen);
     await screen.answered();
-    assert.deepEqual(screen.phone.stored(), { [key]: value });
-    assert.deepEqual(screen.phone.storedAsSeenByPlistutil(), { [key]: value });
+    assert.deepEqual(await screen.phone.stored(), { [key]: value });
+    assert.deepEqual(await screen.phone.storedAsSeenByPlistutil(), { [key]: value });
   });
 }
 
@@ -74,7 +74,7 @@ scenario('a slider stores a real of single width', {}, async (screen) => {
 scenario('what another tool stores meanwhile is kept, and is shown on the next visit',
   { values: "{'clockDigitSize': 10.0}" }, async (screen) => {
     await screen.push('Clock');
-    screen.phone.store("{'clockDigitSize': 20.0, 'theirs': [1, 2]}");
+    await screen.phone.store("{'clockDigitSize': 20.0, 'theirs': [1, 2]}");
     await screen.group('Clock').getByRole('switch').click();
     assert.deepEqual(await screen.stored(),
       { clockDigitSize: '20.0', theirs: '[1, 2]', clockEnabled: 'False' });

@@ -42,7 +42,7 @@ const values = [
 scenario('a slider shows something sensible over any stored value, and still moves', {},
   async (screen) => {
     for (const [value, number] of values) {
-      screen.phone.store(`{'clockDigitSize': ${value}}`, 'FMT_BINARY');
+      await screen.phone.store(`{'clockDigitSize': ${value}}`, 'FMT_BINARY');
       const before = screen.phone.bytes();
       await screen.push('Clock');
       assert.equal(await shown(sliders[0], screen).number(), number, value);
@@ -64,7 +64,7 @@ const states = [
 scenario('a switch shows something sensible over any stored value, and still turns', {},
   async (screen) => {
     for (const [value, state] of states) {
-      screen.phone.store(`{'clockEnabled': ${value}}`);
+      await screen.phone.store(`{'clockEnabled': ${value}}`);
       await screen.push('Clock');
       assert.equal(await shown(switches[0], screen).toggle(), state, value);
       await screen.group('Clock').getByRole('switch').click();

@@ -61,7 +61,8 @@ scenario('what is being typed in one window is not written over by the other', {
       await screen.group('Size').getByRole('slider').getAttribute('aria-valuenow'), '200'));
     assert.equal(await field.inputValue(), '12');
     await field.press('Enter');
-    await eventually(() => assert.equal(screen.phone.stored().clockDigitSize, '12.0'));
+    await eventually(async () =>
+      assert.equal((await screen.phone.stored()).clockDigitSize, '12.0'));
   });
 
 scenario('closing one window leaves the other at work', {}, async (screen) => {
