@@ -18,10 +18,12 @@ export function create() {
 export function update(view, node, context) {
   if (!context.isTop()) return;
   setText(view.title, node.title);
-  for (const [part, color] of Object.entries(node.style)) {
+  const { translucent, ...colors } = node.style;
+  for (const [part, color] of Object.entries(colors)) {
     view.element.style.setProperty(`--${part}`, color);
   }
-  document.querySelector('meta[name=theme-color]').content = node.style.bar;
+  view.element.classList.toggle('translucent', Boolean(translucent));
+  document.querySelector('meta[name=theme-color]').content = colors.bar;
   context.place(view.leading, node.back ? [node.back] : []);
   context.place(view.content, node.children);
 }
