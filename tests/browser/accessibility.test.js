@@ -72,6 +72,23 @@ scenario('a slider tells its value and its ends', {}, async (screen) => {
   assert.deepEqual(found, expected);
 });
 
+scenario('each control is tied by id to the footer below it', {}, async (screen) => {
+  for (const [title, count] of [['Clock', 6], ['Quick Actions', 4], ['Color', 1]]) {
+    await screen.push(title);
+    const found = await screen.page.locator(':is([role=switch], [role=slider], [role=tablist])')
+      .and(screen.page.locator('.page:not([inert]) *')).evaluateAll((controls) =>
+        controls.filter((control) => control.checkVisibility()).map((control) => {
+          const tree = control.getRootNode();
+          const group = (tree.host ?? control).closest('.group');
+          const described = tree.getElementById(control.getAttribute('aria-describedby'));
+          return [described?.textContent, group.querySelector('.footer').textContent];
+        }));
+    assert.equal(found.length, count, title);
+    for (const [described, footer] of found) assert.equal(described, footer);
+    await screen.pop('Quillmere');
+  }
+});
+
 scenario('the footer above the segments describes them as a whole', {}, async (screen) => {
   await screen.push('Color');
   const segments = (await accessibilityTree(screen)).find(({ role }) => role === 'tablist');

@@ -1,5 +1,6 @@
-import { element } from '../element.js';
+import { element, setText } from '../element.js';
 import { whenDrawn } from '../kit.js';
+import { describe } from '../row.js';
 
 /** How many steps a key moves the knob. */
 const strides = {
@@ -13,11 +14,9 @@ export function create(node, context) {
     class: 'value', type: 'text', maxlength: 32, autocomplete: 'off', enterkeyhint: 'done',
   });
   const row = element('div', { class: 'row slider' }, range, field);
-  const view = { element: row, range, field, node, moving: false, told: null, footer: null };
-  view.describe = (footer) => {
-    view.footer = footer;
-    nameKnob(view);
-  };
+  const note = element('span', { hidden: true });
+  const view = { element: row, range, field, note, node, moving: false, told: null };
+  view.describe = (footer) => describeKnob(view, footer);
   listenToRange(view, context);
   listenToField(view, context);
   return view;
@@ -54,11 +53,20 @@ function show({ field }, value) {
 }
 
 /** The kit hides the element that is the slider; what it is called has to be told to it there. */
-function nameKnob({ range, node, footer }) {
+const knobOf = ({ range }) => range.shadowRoot.querySelector('[role=slider]');
+
+function nameKnob(view) {
+  whenDrawn(view.range, () => (knobOf(view).ariaLabel = view.node.label));
+}
+
+/** An id says nothing outside of its tree, so the footer stands beside the knob once more. */
+function describeKnob(view, footer) {
+  const { range, note } = view;
   whenDrawn(range, () => {
-    const knob = range.shadowRoot.querySelector('[role=slider]');
-    knob.ariaLabel = node.label;
-    knob.ariaDescription = footer?.textContent ?? null;
+    note.id = footer?.id ?? '';
+    setText(note, footer?.textContent ?? '');
+    range.shadowRoot.append(note);
+    describe(knobOf(view), footer && note);
   });
 }
 
