@@ -1,5 +1,6 @@
 import assert from 'node:assert/strict';
 import { accessibilityTree } from './fixture/accessibility.js';
+import { alter } from './fixture/altered.js';
 import { sliders } from './fixture/rows.js';
 import { scenario } from './fixture/scenario.js';
 
@@ -118,6 +119,15 @@ scenario('each row with a value says which key it is of', {}, async (screen) => 
     'clockDigitsSpacing', 'colonHeight', 'flashEnabled', 'cameraEnabled',
     'quickActionsLoopAnimation', 'quickActionsSize', 'colorMode', 'tintColor',
   ]);
+});
+
+scenario('a row that is of no key says none', {}, async (screen) => {
+  await alter(screen, (node) => delete node.key);
+  for (const title of ['Clock', 'Color']) {
+    await screen.push(title);
+    assert.equal(await screen.page.locator('[data-key]').count(), 0);
+    await screen.pop('Quillmere');
+  }
 });
 
 scenario('all that can be touched is at least 44 pixels high and wide', {}, async (screen) => {

@@ -1,4 +1,4 @@
-import { element, setText } from '../element.js';
+import { element, setAttribute, setText } from '../element.js';
 import { openPicker, shortHex } from '../picker.js';
 import { describe, tapRow, updateTapRow } from '../row.js';
 
@@ -15,7 +15,7 @@ export function create(_, context) {
 export function update(view, node) {
   updateTapRow(view, node);
   view.node = node;
-  view.element.dataset.key = node.key;
+  setAttribute(view.element, 'data-key', node.key);
   paint(view, node.color);
 }
 

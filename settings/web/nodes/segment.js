@@ -1,4 +1,4 @@
-import { element } from '../element.js';
+import { element, setAttribute } from '../element.js';
 import { whenDrawn } from '../kit.js';
 import { describe } from '../row.js';
 
@@ -16,7 +16,7 @@ export function create(node, context) {
 
 export function update(view, node) {
   if (view.titles.join('\n') !== node.titles.join('\n')) fill(view, node.titles);
-  view.element.dataset.key = node.key;
+  setAttribute(view.element, 'data-key', node.key);
   whenDrawn(view.control, () => (view.control.ariaLabel = node.label));
   view.control.value = node.selected < 0 ? undefined : String(node.selected);
   view.control.disabled = node.enabled === false;

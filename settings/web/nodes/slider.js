@@ -1,4 +1,4 @@
-import { element, setText } from '../element.js';
+import { element, setAttribute, setText } from '../element.js';
 import { whenDrawn } from '../kit.js';
 import { describe } from '../row.js';
 
@@ -25,7 +25,7 @@ export function create(node, context) {
 export function update(view, node) {
   const { range, field } = view;
   view.node = node;
-  view.element.dataset.key = node.key;
+  setAttribute(view.element, 'data-key', node.key);
   Object.assign(range, { min: node.min, max: node.max, step: node.step ?? hundredth(node) / 10 });
   range.disabled = field.disabled = node.enabled === false;
   field.hidden = !node.showValue;

@@ -1,4 +1,4 @@
-import { element, setText } from '../element.js';
+import { element, setAttribute, setText } from '../element.js';
 import { whenDrawn } from '../kit.js';
 import { describe } from '../row.js';
 
@@ -17,7 +17,7 @@ export function create(node, context) {
 export function update(view, node) {
   setText(view.label, node.label);
   whenDrawn(view.element, () => (view.element.ariaLabel = node.label));
-  view.element.dataset.key = node.key;
+  setAttribute(view.element, 'data-key', node.key);
   view.element.checked = node.on;
   view.element.disabled = node.enabled === false;
 }
