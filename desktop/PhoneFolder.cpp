@@ -1,6 +1,8 @@
 #include "desktop/PhoneFolder.h"
 
+#include <array>
 #include <cerrno>
+#include <climits>
 #include <cstdint>
 #include <dirent.h>
 #include <fcntl.h>
@@ -16,7 +18,10 @@ namespace desktop {
 
 namespace {
 
-constexpr std::string_view asideMark = ".aside-";
+constexpr std::string_view asideMark = ".quillmere-aside-";
+
+/// How often an interrupted system call is made again, and how many links lead on to one another.
+constexpr int maximumTries = 40;
 
 [[noreturn]] void fail(std::string_view path, int error = errno) {
   throw std::system_error(error, std::generic_category(), std::string(path));
@@ -34,11 +39,12 @@ int openInside(const Descriptor& root, std::string_view path, int flags) {
   how.flags = static_cast<decltype(how.flags)>(flags | O_CLOEXEC);
   how.resolve = RESOLVE_IN_ROOT | RESOLVE_NO_MAGICLINKS;
   const std::string terminated(path);
-  long result;
-  do {  // The kernel asks for another try when a folder was renamed while it walked the path.
-    result = syscall(SYS_openat2, root.number(), terminated.c_str(), &how, sizeof how);
-  } while (result < 0 && (errno == EAGAIN || errno == EINTR));
-  return static_cast<int>(result);
+  // The kernel asks for another try when a folder was renamed while it walked the path.
+  for (int tries = 0; tries < maximumTries; ++tries) {
+    const long number = syscall(SYS_openat2, root.number(), terminated.c_str(), &how, sizeof how);
+    if (number >= 0 || (errno != EAGAIN && errno != EINTR)) return static_cast<int>(number);
+  }
+  return -1;
 }
 
 std::string readAll(const Descriptor& file, std::size_t size, std::string_view path) {
@@ -76,13 +82,45 @@ bool isAsideName(std::string_view name) {
          name.find_first_not_of("0123456789", asideMark.size()) == std::string_view::npos;
 }
 
-mode_t modeOf(const Descriptor& folder, const std::string& name) {
-  struct stat status {};
-  const bool stands = fstatat(folder.number(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0;
-  return stands && S_ISREG(status.st_mode) ? status.st_mode & 07777 : 0644;
+std::string linkTarget(const Descriptor& folder, const std::string& name, std::string_view path) {
+  std::array<char, PATH_MAX> target;
+  const ssize_t size = readlinkat(folder.number(), name.c_str(), target.data(), target.size());
+  if (size < 0) fail(path);
+  return {target.data(), static_cast<std::size_t>(size)};
+}
+
+/// Makes a new file as the one that it takes the place of: its mode and, where that is allowed,
+/// its owner.
+void takeAfter(const struct stat& before, const Descriptor& file, std::string_view path) {
+  if (fchown(file.number(), before.st_uid, before.st_gid) < 0 && errno != EPERM) fail(path);
+  check(fchmod(file.number(), before.st_mode & 07777), path);
 }
 
 }  // namespace
+
+/// Where a path ends once the links that stand in the file's own place are followed.
+struct PhoneFolder::Place {
+  Descriptor folder;
+  std::string name;
+  /// None when nothing stands there.
+  std::optional<struct stat> status;
+};
+
+PhoneFolder::Place PhoneFolder::placeOf(std::string path) const {
+  for (int links = 0; links < maximumTries; ++links) {
+    Place place{openParent(path), nameIn(path), std::nullopt};
+    struct stat status {};
+    if (fstatat(place.folder.number(), place.name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0) {
+      place.status = status;
+    } else if (errno != ENOENT) {
+      fail(path);
+    }
+    if (!place.status || !S_ISLNK(status.st_mode)) return place;
+    const std::string target = linkTarget(place.folder, place.name, path);
+    path = target.starts_with('/') ? target : std::string(parentOf(path)) + target;
+  }
+  fail(path, ELOOP);
+}
 
 PhoneFolder::PhoneFolder(const std::filesystem::path& host)
     : root_(::open(host.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)) {
@@ -115,19 +153,23 @@ std::optional<std::string> PhoneFolder::read(std::string_view path) const {
 }
 
 void PhoneFolder::replace(std::string_view path, std::string_view bytes) const {
-  const Descriptor folder = openParent(path);
-  flock(folder.number(), LOCK_SH);  // Keeps `sweep` away.
-  const std::string name = nameIn(path);
+  const Place place = placeOf(std::string(path));
+  const Descriptor& folder = place.folder;
+  flock(folder.number(), LOCK_SH | LOCK_NB);  // Keeps `sweep` away, and waits for nobody.
   const std::string aside = asideName();
   const int number = openat(folder.number(), aside.c_str(),
                             O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
   check(number, path);
   const Descriptor file(number);
   try {
-    check(fchmod(number, modeOf(folder, name)), path);
+    if (place.status) {
+      takeAfter(*place.status, file, path);
+    } else {
+      check(fchmod(number, 0644), path);
+    }
     writeAll(file, bytes, path);
     check(fsync(number), path);
-    check(renameat(folder.number(), aside.c_str(), folder.number(), name.c_str()), path);
+    check(renameat(folder.number(), aside.c_str(), folder.number(), place.name.c_str()), path);
   } catch (...) {
     unlinkat(folder.number(), aside.c_str(), 0);
     throw;
@@ -148,6 +190,14 @@ bool PhoneFolder::exists(std::string_view path) const {
   const int number = openInside(root_, path, O_PATH);
   if (number >= 0) ::close(number);
   return number >= 0;
+}
+
+bool PhoneFolder::areSame(std::string_view one, std::string_view other) const {
+  struct stat left {};
+  struct stat right {};
+  check(fstat(open(one, O_PATH).number(), &left), one);
+  check(fstat(open(other, O_PATH).number(), &right), other);
+  return left.st_dev == right.st_dev && left.st_ino == right.st_ino;
 }
 
 std::vector<std::string> PhoneFolder::list(std::string_view path) const {

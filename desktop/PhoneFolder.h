@@ -27,13 +27,18 @@ class PhoneFolder {
   std::optional<std::string> read(std::string_view path) const;
 
   /// Makes the file hold `bytes`, durably and at once: they are written aside, synced and renamed
-  /// into place, and the folder is synced. A replaced file's mode is kept, a new one's is 0644.
+  /// into place, and the folder is synced. A link in the file's place is followed, and stays. A
+  /// replaced file's mode is kept, and its owner where that is allowed; a new one's mode is 0644.
   void replace(std::string_view path, std::string_view bytes) const;
 
   /// Deletes a file, durably; nothing happens when there is none.
   void remove(std::string_view path) const;
 
+  /// Whether something stands there; false also when that cannot be found out.
   bool exists(std::string_view path) const;
+
+  /// Whether both paths lead to the same file or folder.
+  bool areSame(std::string_view one, std::string_view other) const;
 
   /// The names in a folder, in the folder's own order, without "." and "..".
   std::vector<std::string> list(std::string_view path) const;
@@ -51,6 +56,9 @@ class PhoneFolder {
  private:
   Descriptor open(std::string_view path, int flags) const;
   Descriptor openParent(std::string_view path) const;
+
+  struct Place;
+  Place placeOf(std::string path) const;
 
   Descriptor root_;
 };

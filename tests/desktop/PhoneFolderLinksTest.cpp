@@ -52,11 +52,27 @@ TEST_F(PhoneFolderLinks, DotsInAPathStopAtThePhonesRoot) {
   EXPECT_EQ(phone->folder.read(up + "/inside"), "inside");
 }
 
-TEST_F(PhoneFolderLinks, ALinkPlantedAsTheFileIsReplacedAndNotFollowed) {
+TEST_F(PhoneFolderLinks, ALinkInTheFilesPlaceIsFollowedAndStays) {
+  writeBytes(host("/var/mobile/real"), "old");
+  for (const char* target : {"/var/mobile/real", "../../real"}) {
+    fs::remove(file);
+    fs::create_symlink(target, file);
+    phone->folder.replace(path, target);
+    EXPECT_TRUE(fs::is_symlink(file));
+    EXPECT_EQ(bytesOf(host("/var/mobile/real")), target);
+  }
+}
+
+TEST_F(PhoneFolderLinks, ALinkPlantedAsTheFileIsNotFollowedOut) {
   fs::create_symlink(outside.path / "secret", file);
-  phone->folder.replace(path, "new");
-  EXPECT_FALSE(fs::is_symlink(file));
-  EXPECT_EQ(bytesOf(file), "new");
+  EXPECT_THROW(phone->folder.replace(path, "new"), std::system_error);
+  EXPECT_TRUE(fs::is_symlink(file));
+}
+
+TEST_F(PhoneFolderLinks, LinksInACircleAreNotReplaced) {
+  fs::create_symlink(file.filename(), file);
+  EXPECT_THROW(phone->folder.replace(path, "new"), std::system_error);
+  EXPECT_TRUE(fs::is_symlink(file));
 }
 
 TEST_F(PhoneFolderLinks, ALinkPlantedAsAFolderOnTheWayIsNotFollowedOut) {
@@ -96,8 +112,8 @@ TEST_F(PhoneFolderLinks, TheKernelsOwnLinksAreNotFollowed) {
 TEST_F(PhoneFolderLinks, TheServiceNeverWritesThroughAPlantedFile) {
   fs::create_symlink(outside.path / "secret", file);
   phone->preferences.set(domain, "key", plist::Value(true));
-  EXPECT_EQ(phone->preferences.value(domain, "key"), plist::Value(true));
-  EXPECT_FALSE(fs::is_symlink(file));
+  EXPECT_EQ(reports.size(), 1U);
+  EXPECT_TRUE(fs::is_symlink(file));
 }
 
 TEST_F(PhoneFolderLinks, TheServiceReportsAPlantedFolderAndWritesNothing) {
