@@ -1,14 +1,13 @@
 #include <boost/asio/signal_set.hpp>
 #include <csignal>
-#include <cstdlib>
 #include <fcntl.h>
 #include <iostream>
-#include <spawn.h>
 #include <string>
 #include <unistd.h>
 
 #include "desktop/Phone.h"
 #include "desktop/SettingsApplication.h"
+#include "settings/Browser.h"
 #include "settings/Options.h"
 #include "settings/PhoneSetup.h"
 #include "settings/Screen.h"
@@ -19,13 +18,6 @@ using namespace settings;
 
 namespace {
 
-bool isSet(const char* variable) {
-  const char* value = std::getenv(variable);
-  return value && *value;
-}
-
-bool hasDisplay() { return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY"); }
-
 /// Gives each standard stream that is closed a place to go. Its number would otherwise go to the
 /// next file or socket, which would then get what is printed.
 void openStandardStreams() {
@@ -33,19 +25,6 @@ void openStandardStreams() {
   do number = open("/dev/null", O_RDWR);
   while (number >= 0 && number < STDERR_FILENO);
   if (number > STDERR_FILENO) close(number);
-}
-
-/// Asks the desktop to open the address; a desktop that cannot has said so itself.
-void openBrowser(std::string address) {
-  char program[] = "xdg-open";
-  char* const arguments[] = {program, address.data(), nullptr};
-  posix_spawn_file_actions_t actions;
-  posix_spawn_file_actions_init(&actions);
-  // A browser that had the port as well would keep it beyond the end of this program.
-  posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
-  pid_t child;
-  posix_spawnp(&child, program, &actions, nullptr, arguments, environ);
-  posix_spawn_file_actions_destroy(&actions);
 }
 
 std::filesystem::path phoneFolder(const Options& options) {
