@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <iostream>
 #include <stdexcept>
 #include <unistd.h>
 
@@ -47,7 +48,9 @@ fs::path defaultPhoneFolder() {
 
 void requireFolder(const fs::path& folder) {
   std::error_code error;
-  fs::create_directory(folder, error);
+  if (fs::create_directory(folder, error)) {
+    std::cerr << "quillmere-settings: made a new phone in " << folder.string() << std::endl;
+  }
   if (!fs::exists(folder)) {
     throw std::runtime_error(folder.string() + " cannot be made (" + error.message() + ")");
   }
@@ -61,6 +64,10 @@ void setUpPhone(const desktop::PhoneFolder& folder) {
   const bool isNew = !folder.exists("/Library") && !folder.exists("/var");
   for (const char* path : folders) folder.makeFolders(path);
   folder.makeLink("/User", "var/mobile");
+  // A copy that followed links has two folders instead: pages and service would part ways.
+  if (!folder.areSame("/User", "/var/mobile")) {
+    throw std::runtime_error("User in the phone folder has to be a link to var/mobile");
+  }
   install(folder, bundleFiles());
   if (isNew) install(folder, sampleAnimations());
 }
