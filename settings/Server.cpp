@@ -12,6 +12,7 @@
 #include <boost/beast/http/write.hpp>
 #include <boost/beast/websocket/rfc6455.hpp>
 #include <chrono>
+#include <iostream>
 #include <stdexcept>
 #include <string>
 
@@ -115,13 +116,15 @@ asio::awaitable<void> Server::serve(tcp::socket socket) {
 }
 
 asio::awaitable<void> Server::converse(std::shared_ptr<Client> client, Request handshake) {
-  clients_.insert(client);
-  client->show(application_.tree());
   try {
+    clients_.insert(client);
+    client->show(application_.tree());
     co_await client->run(std::move(handshake),
                          [&](std::string_view message) { touched(*client, message); });
   } catch (const boost::system::system_error&) {
     // The page was closed.
+  } catch (const std::exception& failure) {
+    std::cerr << "quillmere-settings: a page is dropped: " << failure.what() << std::endl;
   }
   clients_.erase(client);
 }

@@ -106,6 +106,11 @@ void touch(NavigationController& navigation, std::string_view text) {
     // On a phone the Settings app would end here; at a desk, hearing of it is worth more.
     desktop::Phone::current().report(raised.what());
     throw RefusedTouch(raised.what());
+  } catch (const RefusedTouch&) {
+    throw;
+  } catch (const std::exception& failure) {
+    desktop::Phone::current().report(std::string("a touch failed: ") + failure.what());
+    throw RefusedTouch("it could not be done");
   }
 }
 

@@ -80,8 +80,8 @@ bool NSMutableDictionary::writeToFile(const NSString& path, Atomically atomicall
         try {
           writePropertyList(phone.folder, path.UTF8String(), {self.dictionary, self.form});
           return true;
-        } catch (const std::system_error& failure) {
-          phone.report(path.UTF8String() + " was not written: " + failure.code().message());
+        } catch (const std::exception& failure) {
+          phone.report(path.UTF8String() + " was not written: " + failure.what());
           return false;
         }
       });
