@@ -71,6 +71,7 @@ json styleNode(const platform::HBAppearanceSettings& appearance) {
       {"text", look->cellText},
       {"separator", look->cellSeparator},
   };
+  style["translucent"] = look->translucentNavigationBar;
   for (const auto& [name, color] : colors) {
     if (color) style[name] = desktop::webColor(color);
   }

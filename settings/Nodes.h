@@ -10,7 +10,8 @@ namespace settings {
 /// The node of a row.
 nlohmann::json rowNode(const desktop::AnyCell& cell);
 
-/// The colours of a page, "#rrggbbaa" each; those that the page leaves to the system are absent.
+/// The look of a page: its colours, "#rrggbbaa" each, those that it leaves to the system absent,
+/// and whether content shows through its bar.
 nlohmann::json styleNode(const platform::HBAppearanceSettings& appearance);
 
 }  // namespace settings

@@ -7,7 +7,7 @@
 
 namespace desktop {
 
-/// The look that a page asked for; a colour that was not set is none.
+/// The look that a page asked for; a colour that was not set is none. Titles are always small.
 class AppearanceBody : public Body {
  public:
   std::string_view className() const override { return "HBAppearanceSettings"; }
@@ -19,7 +19,6 @@ class AppearanceBody : public Body {
   platform::UIColor cellSeparator;
   platform::UIColor cellText;
   bool translucentNavigationBar = false;
-  unsigned long largeTitleStyle = 0;
 };
 
 }  // namespace desktop

@@ -56,7 +56,7 @@ void HBAppearanceSettings::setTranslucentNavigationBar(bool translucent) {
 void HBAppearanceSettings::setLargeTitleStyle(HBAppearanceSettingsLargeTitleStyle style) {
   const auto number = static_cast<unsigned long>(style);
   send<AppearanceBody>(*this, "setLargeTitleStyle:", {static_cast<double>(number)},
-                       [&](AppearanceBody& self) { self.largeTitleStyle = number; });
+                       [](AppearanceBody&) {});
 }
 
 }  // namespace platform

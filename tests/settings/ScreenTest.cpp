@@ -23,7 +23,7 @@ TEST_F(ScreenTest, ShowsTheQuickActionsPageExactly) {
     "window": {"kind": "window", "children": ["page1", "page2"]},
     "page1": {"kind": "page", "title": "Quillmere"},
     "page2": {"kind": "page", "title": "Quick Actions", "back": "page2.back",
-      "style": {"tint": "#f69240ff", "bar": "#f69240ff", "barText": "#ffffffff",
+      "style": {"translucent": true, "tint": "#f69240ff", "bar": "#f69240ff", "barText": "#ffffffff",
                 "barTint": "#ffffffff", "text": "#f69240ff", "separator": "#00000000"},
       "children": ["page2.group0", "page2.group1", "page2.group2"]},
     "page2.back": {"kind": "back", "label": "Quillmere"},
