@@ -1,11 +1,13 @@
 #include "prefs/Appearance.h"
 
+#include "prefs/Quillmere.h"
+
 namespace quillmere {
 
 using namespace platform;
 
 UIColor accentColor() {
-  return UIColor::colorWithRed(246.0 / 255.0, 146.0 / 255.0, 64.0 / 255.0, 1.0);
+  return UIColor::colorWithRed(accent.red / 255.0, accent.green / 255.0, accent.blue / 255.0, 1.0);
 }
 
 HBAppearanceSettings sharedAppearance() {

@@ -5,7 +5,7 @@
 
 namespace quillmere {
 
-/// A fresh object of the add-on's orange (`accentHex`), opaque.
+/// A fresh object of the add-on's orange (`accent`), opaque.
 platform::UIColor accentColor();
 
 /// A fresh object with the look that every page wears.

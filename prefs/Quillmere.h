@@ -4,15 +4,21 @@
 /// Each stands here and nowhere else; rows and footers are made from it.
 namespace quillmere {
 
-inline constexpr const char* productName = "Quillmere";
 inline constexpr const char* bundlePath = "/Library/PreferenceBundles/Quillmere.bundle";
 
 /// The preferences domain, and the Darwin notification that announces a change of it.
 inline constexpr const char* domain = "com.orvalen.quillmere";
 inline constexpr const char* prefsChanged = "com.orvalen.quillmere.prefs-changed";
 
-/// The accent colour as rows carry it in text: red, green and blue in hexadecimal, no sign.
+/// The accent colour, components from 0 to 255, and as rows carry it in text: hexadecimal, no sign.
+struct Rgb {
+  int red;
+  int green;
+  int blue;
+};
+inline constexpr Rgb accent{246, 146, 64};
 inline constexpr const char* accentHex = "f69240";
+static_assert(accent.red == 0xf6 && accent.green == 0x92 && accent.blue == 0x40);
 
 /// A preference: the key in the domain and the value that an absent key stands for.
 template <class Value>
