@@ -32,6 +32,9 @@ class Phone {
   /// Classes whose library is not installed on this phone.
   std::set<std::string> missingClasses;
 
+  /// The folder of the bundle that is open, whose resources its controllers load.
+  std::string bundle;
+
   PhoneFolder folder;
   Journal journal;
   NotifyCenter notifications;

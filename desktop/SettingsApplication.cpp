@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "desktop/Foundation/PropertyListFile.h"
+#include "desktop/Foundation/Values.h"
 #include "desktop/Phone.h"
 #include "desktop/UIKit/ControllerState.h"
 
@@ -11,11 +12,6 @@ namespace desktop {
 namespace {
 
 constexpr const char* loaderFolder = "/Library/PreferenceLoader/Preferences";
-
-std::string textAt(const plist::Dictionary& dictionary, std::string_view key) {
-  const plist::Value* value = dictionary.find(key);
-  return std::string(value ? value->string().value_or("") : "");
-}
 
 plist::Dictionary dictionaryAt(const std::string& path) {
   try {
@@ -39,15 +35,12 @@ std::string bundleLabelled(const std::string& label) {
   throw std::runtime_error("no entry in " + std::string(loaderFolder) + " is labelled " + label);
 }
 
-std::string principalClassOf(const std::string& bundle) {
-  return textAt(dictionaryAt("/Library/PreferenceBundles/" + bundle + ".bundle/Info.plist"),
-                "NSPrincipalClass");
-}
-
 }  // namespace
 
 SettingsApplication::SettingsApplication(const std::string& label) {
-  const std::string name = principalClassOf(bundleLabelled(label));
+  std::string& bundle = Phone::current().bundle;
+  bundle = "/Library/PreferenceBundles/" + bundleLabelled(label) + ".bundle";
+  const std::string name = textAt(dictionaryAt(bundle + "/Info.plist"), "NSPrincipalClass");
   auto controller = makeController(name);
   if (!controller) throw std::runtime_error("the bundle has no class \"" + name + "\"");
   stateOf(*controller).title = label;

@@ -117,13 +117,18 @@ void PreferencesService::settle(const std::string& domain) const {
   }
 }
 
-void PreferencesService::start() const {
-  phone_.folder.sweep(folder);
+void PreferencesService::settleAll() const {
+  if (!phone_.folder.exists(folder)) return;
   for (const std::string& name : phone_.folder.list(folder)) {
     if (name.ends_with(pendingEnding)) {
       settle(name.substr(0, name.size() - pendingEnding.size()));
     }
   }
+}
+
+void PreferencesService::start() const {
+  phone_.folder.sweep(folder);
+  settleAll();
 }
 
 }  // namespace desktop

@@ -20,8 +20,7 @@ class PreferencesService {
  public:
   explicit PreferencesService(Phone& phone) : phone_(phone) {}
 
-  /// Clears up after an earlier run that was cut short, and merges what it kept beside files that
-  /// are readable by now.
+  /// Clears up after an earlier run that was cut short, and settles all domains.
   void start() const;
 
   /// The domain's value for the key; none when it has none.
@@ -34,6 +33,9 @@ class PreferencesService {
 
   /// Merges what is kept beside the domain's file, if it can be merged by now.
   void settle(const std::string& domain) const;
+
+  /// The same for every domain.
+  void settleAll() const;
 
  private:
   struct Domain;

@@ -93,6 +93,12 @@ std::string textOf(const platform::Object& object) {
   return body ? std::string(body->value.string().value_or("")) : std::string();
 }
 
+std::string textAt(const plist::Dictionary& dictionary, std::string_view key,
+                   std::string_view absent) {
+  const plist::Value* value = dictionary.find(key);
+  return std::string(value ? value->string().value_or(absent) : absent);
+}
+
 double doubleValue(const platform::Object& object) {
   const auto* body = bodyAs<ValueBody>(object);
   if (!body) return 0;

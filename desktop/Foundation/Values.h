@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "desktop/Body.h"
 #include "platform/Foundation/NSArray.h"
@@ -17,6 +18,10 @@ plist::Value unbox(const platform::Object& object);
 
 /// The text of a string; empty for any other object.
 std::string textOf(const platform::Object& object);
+
+/// The text that a dictionary has under the key; `absent` when it has none.
+std::string textAt(const plist::Dictionary& dictionary, std::string_view key,
+                   std::string_view absent = {});
 
 /// What the platform's `doubleValue` answers: a number's value, the number that a string begins
 /// with, else 0. Objects that do not answer it, arrays say, count as 0.

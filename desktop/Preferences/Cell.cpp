@@ -1,31 +1,11 @@
 #include "desktop/Preferences/Cell.h"
 
-#include <algorithm>
-
 #include "desktop/Foundation/Values.h"
-#include "desktop/Phone.h"
 #include "desktop/Preferences/SpecifierBody.h"
 #include "desktop/UIKit/ControllerState.h"
 #include "platform/Preferences/PSListController.h"
 
 namespace desktop {
-
-namespace {
-
-/// Calls the target's method of that name, as a message would.
-platform::Object call(platform::PSListController& target, const std::string& selector,
-                      const platform::Object& first, const platform::Object& second = {}) {
-  const auto methods = target.methods();
-  const auto method = std::ranges::find(
-      methods, selector, [](const platform::Method& candidate) { return candidate.selector.name; });
-  if (method == methods.end()) {
-    Phone::current().report(stateOf(target).className + " does not answer \"" + selector + "\"");
-    return {};
-  }
-  return method->invoke(target, first, second);
-}
-
-}  // namespace
 
 const SpecifierBody& Cell::row() const { return *bodyAs<SpecifierBody>(specifier_); }
 
@@ -43,13 +23,11 @@ bool Cell::flag(const char* property) const { return boolValue(row().property(pr
 
 platform::Object Cell::performGetter() const {
   if (row().get.empty()) return {};
-  return call(*row().target, row().get, specifier_);
+  return perform(*row().target, row().get, specifier_);
 }
 
 void Cell::performSetterWithValue(const platform::Object& value) const {
-  if (!row().set.empty()) call(*row().target, row().set, value, specifier_);
+  if (!row().set.empty()) perform(*row().target, row().set, value, specifier_);
 }
-
-void Cell::perform(const std::string& selector) const { call(*row().target, selector, specifier_); }
 
 }  // namespace desktop

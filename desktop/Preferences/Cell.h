@@ -37,8 +37,7 @@ class Cell {
   platform::Object performGetter() const;
   void performSetterWithValue(const platform::Object& value) const;
 
-  /// Sends a message with the row as its argument to the row's target.
-  void perform(const std::string& selector) const;
+  const platform::PSSpecifier& specifier() const { return specifier_; }
 
  private:
   platform::PSSpecifier specifier_;

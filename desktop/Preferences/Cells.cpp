@@ -25,6 +25,14 @@ const std::vector<platform::Object>& objectsOf(const platform::NSArray& array) {
   return body ? body->objects : nothing;
 }
 
+/// Pushes a new page of that class.
+void open(const std::string& className, const std::string& title, NavigationController& stack) {
+  auto controller = makeController(className);
+  if (!controller) return Phone::current().report("there is no class " + className + " to open");
+  stateOf(*controller).title = title;
+  if (controller->init()) stack.push(std::move(controller));
+}
+
 }  // namespace
 
 SwitchCell::SwitchCell(platform::PSSpecifier specifier)
@@ -106,17 +114,14 @@ bool SegmentCell::select(std::size_t index) {
 bool ActionCell::isLink() const { return row().cell == PSCellType::PSLinkCell; }
 
 void ActionCell::tap() const {
-  if (!row().action.empty()) perform(row().action);
+  // The action may take its own page, and this cell with it, off the screen.
+  const platform::PSSpecifier sender = specifier();
+  const SpecifierBody& tapped = row();
+  const std::string title = label();
   // A class that no library has is none; its name still stands in the list resource's row.
-  const std::string detail = row().detail ? nameOfClass(row().detail) : text("detail");
-  if (detail.empty()) return;
-  auto controller = makeController(detail);
-  if (!controller) {
-    Phone::current().report("there is no class " + detail + " to open");
-    return;
-  }
-  stateOf(*controller).title = label();
-  if (controller->init()) stateOf(*row().target).navigation->push(std::move(controller));
+  const std::string detail = tapped.detail ? nameOfClass(tapped.detail) : text("detail");
+  if (!tapped.action.empty()) perform(*tapped.target, tapped.action, sender);
+  if (!detail.empty()) open(detail, title, *stateOf(*tapped.target).navigation);
 }
 
 AnyCell makeCell(const platform::PSSpecifier& specifier) {

@@ -28,12 +28,6 @@ PSCellType cellNamed(std::string_view name) {
                                   : static_cast<PSCellType>(found - cellNames.begin());
 }
 
-std::string textAt(const plist::Dictionary& item, std::string_view key,
-                   std::string_view absent = {}) {
-  const plist::Value* value = item.find(key);
-  return std::string(value ? value->string().value_or(absent) : absent);
-}
-
 platform::NSArray arrayAt(const plist::Dictionary& item, std::string_view key) {
   const plist::Value* value = item.find(key);
   return value && value->array() ? box(*value).as<platform::NSArray>() : platform::NSArray();
@@ -80,7 +74,7 @@ platform::NSArray specifiersFrom(const plist::Array& items, platform::PSListCont
 
 ListResource readListResource(const std::string& name, platform::PSListController& target) {
   const Phone& phone = Phone::current();
-  const std::string path = std::string(bundleFolder) + "/" + name + ".plist";
+  const std::string path = phone.bundle + "/" + name + ".plist";
   try {
     const auto file = readPropertyList(phone.folder, path);
     const plist::Value* items = file ? file->dictionary.find("items") : nullptr;

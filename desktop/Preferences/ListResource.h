@@ -7,9 +7,6 @@
 
 namespace desktop {
 
-/// Where the bundle stands on the phone.
-inline constexpr const char* bundleFolder = "/Library/PreferenceBundles/Quillmere.bundle";
-
 /// A list of rows kept as a property list: `title`, and `items` with one dictionary a row.
 struct ListResource {
   std::string title;
@@ -17,7 +14,7 @@ struct ListResource {
   platform::NSArray specifiers;
 };
 
-/// The bundle's resource `name` ("Root" for Root.plist), each row with `target` as its target.
+/// The open bundle's resource `name` ("Root" for Root.plist), each row with `target` as its target.
 ListResource readListResource(const std::string& name, platform::PSListController& target);
 
 }  // namespace desktop

@@ -4,6 +4,8 @@
 
 #include "desktop/Message.h"
 #include "desktop/Preferences/SpecifierBody.h"
+#include "desktop/UIKit/ControllerState.h"
+#include "platform/Preferences/PSListController.h"
 
 namespace desktop {
 
@@ -38,8 +40,10 @@ using desktop::SpecifierBody;
 PSSpecifier PSSpecifier::preferenceSpecifierNamed(const NSString& name, PSListController& target,
                                                   SEL set, SEL get, const Class& detail,
                                                   PSCellType cell, const Class& edit) {
-  return desktop::sendClass("PSSpecifier", "preferenceSpecifierNamed:set:get:detail:cell:edit:",
-                            {name, set.name, get.name, detail, static_cast<double>(cell), edit},
+  return desktop::sendClass("PSSpecifier",
+                            "preferenceSpecifierNamed:target:set:get:detail:cell:edit:",
+                            {name, std::string_view(desktop::stateOf(target).className), set.name,
+                             get.name, detail, static_cast<double>(cell), edit},
                             [&] {
                               PSSpecifier row = desktop::make<PSSpecifier, SpecifierBody>();
                               auto& body = *desktop::bodyAs<SpecifierBody>(row);

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "platform/Cephei/HBAppearanceSettings.h"
 #include "platform/Foundation/NSArray.h"
@@ -28,6 +29,11 @@ struct ControllerState {
 
 /// The platform's side of this controller.
 ControllerState& stateOf(const platform::UIViewController& controller);
+
+/// Calls the controller's method of that name, as a message would; none when it has no such method,
+/// which is reported.
+platform::Object perform(platform::UIViewController& controller, std::string_view selector,
+                         const platform::Object& first, const platform::Object& second = {});
 
 /// A new controller of one of the bundle's classes, not yet initialised; null when there is no
 /// such class.

@@ -31,8 +31,6 @@ class NavigationController {
   void pop();
 
  private:
-  void draw(Page& page);
-
   std::vector<Page> pages_;
   unsigned lastNumber_ = 0;
 };

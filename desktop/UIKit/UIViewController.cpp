@@ -29,6 +29,16 @@ ControllerState& stateOf(const platform::UIViewController& controller) {
   return *platform::ControllerBackend::state(controller);
 }
 
+platform::Object perform(platform::UIViewController& controller, std::string_view selector,
+                         const platform::Object& first, const platform::Object& second) {
+  for (const platform::Method& method : controller.methods()) {
+    if (method.selector.name == selector) return method.invoke(controller, first, second);
+  }
+  Phone::current().report(stateOf(controller).className + " does not answer \"" +
+                          std::string(selector) + "\"");
+  return {};
+}
+
 std::unique_ptr<platform::UIViewController> makeController(const std::string& className) {
   for (const platform::ControllerClass& known : platform::bundleClasses()) {
     if (className != known.name) continue;

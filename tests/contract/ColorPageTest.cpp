@@ -55,20 +55,6 @@ TEST(ColorPageWithoutTheColorLibrary, SetsNoCellClassAndStillOpens) {
   EXPECT_EQ(phone.shown("tintColor"), "Custom Color");
 }
 
-TEST_F(ColorPage, SetsItsPropertiesBetweenItsValues) {
-  const auto journal = phone.journal();
-  const auto first = std::ranges::find(journal,
-                                       "PSSpecifier preferenceSpecifierNamed:\"Color Mode\" "
-                                       "set:setPreferenceValue:specifier: "
-                                       "get:readPreferenceValue: detail:nil cell:9 edit:nil");
-  ASSERT_GE(journal.end() - first, 5);
-  EXPECT_THAT(std::vector(first + 1, first + 5),
-              ElementsAre("PSSpecifier setProperty:\"com.orvalen.quillmere\" forKey:\"defaults\"",
-                          "PSSpecifier setValues:(1, 2) titles:(\"Default\", \"Custom Color\")",
-                          "PSSpecifier setProperty:1 forKey:\"default\"",
-                          "PSSpecifier setProperty:\"colorMode\" forKey:\"key\""));
-}
-
 TEST_F(ColorPage, ShowsItsDefaultsWhileNothingIsStored) {
   EXPECT_EQ(phone.shown("colorMode"), "Default");
   EXPECT_EQ(phone.shown("tintColor"), "#f69240ff");

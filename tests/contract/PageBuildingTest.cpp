@@ -20,15 +20,16 @@ Lines between(const Lines& journal, const std::string& from, const std::string& 
   return last == journal.end() ? Lines() : Lines(first, last + 1);
 }
 
-std::string creation(const RowFacts& row) {
+std::string creation(const RowFacts& row, const std::string& page) {
   if (row.cell == 0) return "PSSpecifier groupSpecifierWithName:" + row.name;
-  return "PSSpecifier preferenceSpecifierNamed:" + row.name + " set:" + row.set +
-         " get:" + row.get + " detail:nil cell:" + std::to_string(row.cell) + " edit:nil";
+  return "PSSpecifier preferenceSpecifierNamed:" + row.name + " target:" + page +
+         " set:" + row.set + " get:" + row.get + " detail:nil cell:" + std::to_string(row.cell) +
+         " edit:nil";
 }
 
 /// A row made and its properties set, in order.
-Lines making(const RowFacts& row) {
-  Lines lines = {creation(row)};
+Lines making(const RowFacts& row, const std::string& page) {
+  Lines lines = {creation(row, page)};
   for (const auto& [key, value] : row.properties) {
     lines.push_back("PSSpecifier setProperty:" + value + " forKey:\"" + key + "\"");
   }
@@ -36,10 +37,10 @@ Lines making(const RowFacts& row) {
 }
 
 /// The rows made and added one after the other, then an immutable copy taken.
-Lines building(const std::vector<RowFacts>& rows) {
+Lines building(const std::vector<RowFacts>& rows, const std::string& page) {
   Lines lines = {"NSMutableArray array"};
   for (const RowFacts& row : rows) {
-    const Lines made = making(row);
+    const Lines made = making(row, page);
     lines.insert(lines.end(), made.begin(), made.end());
     lines.push_back("NSMutableArray addObject:<PSSpecifier " + row.name + ">");
   }
@@ -48,12 +49,14 @@ Lines building(const std::vector<RowFacts>& rows) {
 }
 
 TEST(PageBuilding, ClockAndQuickActionsAddTheirRowsInOrder) {
-  for (const char* page : {"Clock", "Quick Actions"}) {
+  const std::pair<const char*, const char*> pages[] = {{"Clock", "QMClockVC"},
+                                                       {"Quick Actions", "QMQuickActionsVC"}};
+  for (const auto& [label, page] : pages) {
     Driver phone;
-    phone.tap(page);
+    phone.tap(label);
     const Lines journal = phone.journal();
     EXPECT_THAT(between(journal, "NSMutableArray array", "NSMutableArray copy"),
-                ElementsAreArray(building(phone.rows())));
+                ElementsAreArray(building(phone.rows(), page)));
   }
 }
 
@@ -61,15 +64,16 @@ TEST(PageBuilding, ColorAddsItsRowsInOrder) {
   Driver phone;
   phone.tap("Color");
   const Lines journal = phone.journal();
-  Lines expected = building(phone.rows());
+  Lines expected = building(phone.rows(), "QMColorVC");
   const auto after = [&](const std::string& line) { return std::ranges::find(expected, line) + 1; };
   // The values follow the mode's domain; the cell's class is looked up before it is set.
-  expected.insert(std::find(after(creation(phone.rows()[1])), expected.end(),
+  expected.insert(std::find(after(creation(phone.rows()[1], "QMColorVC")), expected.end(),
                             "PSSpecifier setProperty:\"com.orvalen.quillmere\" "
                             "forKey:\"defaults\"") +
                       1,
                   "PSSpecifier setValues:(1, 2) titles:(\"Default\", \"Custom Color\")");
-  expected.insert(after(creation(phone.rows()[3])), "objc NSClassFromString:\"CSColorDisplayCell\"");
+  expected.insert(after(creation(phone.rows()[3], "QMColorVC")),
+                  "objc NSClassFromString:\"CSColorDisplayCell\"");
   EXPECT_THAT(between(journal, "NSMutableArray array", "NSMutableArray copy"),
               ElementsAreArray(expected));
 }
@@ -81,13 +85,13 @@ TEST(PageBuilding, RootInsertsGroupAndCreditsIntoACopyOfTheResource) {
   const auto rows = phone.rows();
   Lines expected = {"NSArray mutableCopy"};
   for (const RowFacts& row : {rows[11], rows[12]}) {
-    const Lines made = making(row);
+    const Lines made = making(row, "QMRoot");
     expected.insert(expected.end(), made.begin(), made.end());
     expected.push_back("NSMutableArray insertObject:<PSSpecifier " + row.name +
                        "> atIndex:" + (row.cell == 0 ? "11" : "12"));
   }
   expected.push_back("NSMutableArray copy");
-  const auto creditsMade = std::ranges::find(expected, creation(rows[12]));
+  const auto creditsMade = std::ranges::find(expected, creation(rows[12], "QMRoot"));
   expected.insert(creditsMade + 1, "objc NSClassFromString:\"OrvalenTripleCell\"");
   EXPECT_THAT(between(journal, "NSArray mutableCopy", "NSMutableArray copy"),
               ElementsAreArray(expected));

@@ -11,13 +11,18 @@ using desktop::SegmentCell;
 using desktop::SwitchCell;
 using plist::Value;
 
+constexpr const char* bundleFolder = "/Library/PreferenceBundles/Quillmere.bundle";
+
 class ListResourceTest : public PageTest {
  protected:
-  ListResourceTest() { std::filesystem::create_directories(host(desktop::bundleFolder)); }
+  ListResourceTest() {
+    phone->bundle = bundleFolder;
+    std::filesystem::create_directories(host(bundleFolder));
+  }
 
   /// Makes the page show a list resource with these items, in XML.
   const std::vector<desktop::Section>& show(const std::string& items) {
-    writeBytes(host(desktop::bundleFolder) / "List.plist",
+    writeBytes(host(bundleFolder) / "List.plist",
                "<plist><dict><key>title</key><string>Title</string><key>items</key><array>" +
                    items + "</array></dict></plist>");
     page().load("List");
@@ -135,14 +140,14 @@ TEST_F(ListResourceTest, AMissingResourceIsReportedAndNone) {
 }
 
 TEST_F(ListResourceTest, AnUnreadableResourceIsReportedAndNone) {
-  writeBytes(host(desktop::bundleFolder) / "Bad.plist", "no property list");
+  writeBytes(host(bundleFolder) / "Bad.plist", "no property list");
   page().load("Bad");
   EXPECT_FALSE(page().rows);
   EXPECT_TRUE(reported("Bad.plist cannot be read"));
 }
 
 TEST_F(ListResourceTest, AResourceWithoutItemsIsReportedAndNone) {
-  writeBytes(host(desktop::bundleFolder) / "Bare.plist", "<plist><dict/></plist>");
+  writeBytes(host(bundleFolder) / "Bare.plist", "<plist><dict/></plist>");
   page().load("Bare");
   EXPECT_FALSE(page().rows);
   EXPECT_TRUE(reported("Bare.plist has no list of rows"));
