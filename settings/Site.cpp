@@ -64,14 +64,14 @@ Response file(const Asset& asset, const Request& request) {
   return finished(std::move(response), request);
 }
 
-}  // namespace
-
 Response plainAnswer(const Request& request, http::status status, std::string_view text) {
   Response response = bare(request, status);
   response.set(http::field::content_type, "text/plain; charset=utf-8");
   response.body() = std::string(text) + '\n';
   return finished(std::move(response), request);
 }
+
+}  // namespace
 
 Response answer(const Access& access, const Request& request) {
   if (const auto refusal = access.refusal(request)) {

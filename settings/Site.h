@@ -12,8 +12,4 @@ inline constexpr const char* socketPath = "/socket";
 /// that an invitation gets, or a refusal.
 Response answer(const Access& access, const Request& request);
 
-/// An answer of plain text, with the fields that every answer has.
-Response plainAnswer(const Request& request, boost::beast::http::status status,
-                     std::string_view text);
-
 }  // namespace settings
