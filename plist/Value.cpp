@@ -16,11 +16,21 @@ Value::Value(Dictionary dictionary) noexcept : Value(Kind::Dictionary) {
   new (&payload_.dictionary) Dictionary(std::move(dictionary));
 }
 
-void Value::retain() const noexcept {
-  if (kind() < Kind::Array) {
-    payload_.buffer->retain();
-  } else if (Node* const node = Internals::node(*this)) {
-    node->retain();
+Value::Value(const Value& other) noexcept : offset_(other.offset_), tag_(other.tag_) {
+  switch (kind()) {
+    case Kind::Array:
+      new (&payload_.array) Array(other.payload_.array);
+      break;
+    case Kind::Dictionary:
+      new (&payload_.dictionary) Dictionary(other.payload_.dictionary);
+      break;
+    case Kind::String:
+    case Kind::Data:
+      payload_.buffer = other.payload_.buffer;
+      payload_.buffer->retain();
+      break;
+    default:
+      payload_.bits = other.payload_.bits;
   }
 }
 

@@ -3,7 +3,6 @@
 #include <bit>
 #include <concepts>
 #include <cstdint>
-#include <cstring>
 #include <new>
 #include <optional>
 #include <string>
@@ -63,20 +62,14 @@ class Value {
   /// A reference of a keyed archive. XML has no form of its own for it.
   static Value uid(std::uint32_t number) noexcept { return Value(Kind::Uid, number); }
 
-  // What a representation holds is plain bits and one counted pointer: copying them and counting
-  // once more is a copy, copying them and forgetting the source is a move.
-  Value(const Value& other) noexcept {
-    std::memcpy(static_cast<void*>(this), &other, sizeof(Value));
-    if (shares()) retain();
-  }
-  Value(Value&& other) noexcept {
-    std::memcpy(static_cast<void*>(this), &other, sizeof(Value));
-    other.forget();
-  }
+  Value(const Value& other) noexcept;
+  Value(Value&& other) noexcept { take(other); }
   Value& operator=(const Value& other) noexcept { return *this = Value(other); }
   Value& operator=(Value&& other) noexcept {
-    const Value old(std::move(*this));  // goes last: `other` may live inside it
-    return *new (this) Value(std::move(other));
+    Value taken(std::move(other));  // `other` may live inside what goes now, or be this value
+    if (shares()) release();
+    take(taken);
+    return *this;
   }
   ~Value() {
     if (shares()) release();
@@ -134,7 +127,7 @@ class Value {
   };
   union Payload {
     Payload() noexcept : bits(0) {}
-    ~Payload() {}
+    ~Payload() {}  // NOLINT(modernize-use-equals-default): that would be deleted
     std::uint64_t bits;
     Buffer* buffer;
     plist::Array array;
@@ -153,13 +146,32 @@ class Value {
     payload_.bits = 0;
     tag_ = 0;
   }
-  void retain() const noexcept;
+  /// Moves `other` into this value, which holds nothing that is shared.
+  void take(Value& other) noexcept {
+    offset_ = other.offset_;
+    tag_ = other.tag_;
+    switch (kind()) {
+      case Kind::Array:
+        new (&payload_.array) Array(std::move(other.payload_.array));
+        break;
+      case Kind::Dictionary:
+        new (&payload_.dictionary) Dictionary(std::move(other.payload_.dictionary));
+        break;
+      case Kind::String:
+      case Kind::Data:
+        payload_.buffer = other.payload_.buffer;
+        break;
+      default:
+        payload_.bits = other.payload_.bits;
+    }
+    other.forget();
+  }
   void release() noexcept;
   static Value owning(Kind kind, std::string bytes);
 
   Payload payload_;           // the bits, or whom the value shares with
   std::uint32_t offset_ = 0;  // of text or data in its buffer
-  std::uint32_t tag_;         // kind, and the length of text or data in bytes
+  std::uint32_t tag_ = 0;     // kind, and the length of text or data in bytes
 };
 
 /// A key with its value.
