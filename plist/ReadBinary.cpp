@@ -22,7 +22,7 @@ using Kind = Internals::Kind;
 /// ASCII text up to this length is cheaper to look at again than to remember.
 constexpr std::size_t kShortText = 256;
 /// What one allocation holds of the text that had to be converted.
-constexpr std::size_t kConvertedBlock = 64 * 1024;
+constexpr std::size_t kConvertedBlock = std::size_t{64} * 1024;
 
 /// An object that several places may share: read once, counted at each of them.
 struct Known {
@@ -56,8 +56,9 @@ class BinaryReader {
     read(file_.topObject(), value);
     while (!open_.empty()) {
       if (!readElements()) continue;
-      value = close();
-      if (!open_.empty()) place(open_.back(), std::move(value));
+      Value whole = close();
+      if (open_.empty()) return whole;
+      place(open_.back(), std::move(whole));
     }
     return value;
   }
@@ -65,12 +66,21 @@ class BinaryReader {
  private:
   // What is known of an object; kKnown and above is a position among the known ones.
   static constexpr std::uint32_t kUnread = 0;
-  static constexpr std::uint32_t kOpen = 1;
-  static constexpr std::uint32_t kKnown = 2;
+  static constexpr std::uint32_t kCounted = 1;  // looked at, and cheaper to look at again
+  static constexpr std::uint32_t kOpen = 2;
+  static constexpr std::uint32_t kKnown = 3;
 
   void count(std::uint64_t nodes) {
     if (nodes > limits_.nodes - nodes_) throw Unreadable("too many values");
     nodes_ += static_cast<std::uint32_t>(nodes);
+  }
+
+  /// Objects that lie over one another could otherwise add up to far more than the file.
+  void countBytes(const Object& object, std::uint64_t number) {
+    if (states_[number] == kCounted) return;
+    states_[number] = kCounted;
+    bytes_ += object.bytes.size();
+    if (bytes_ > source_.bytes().size()) throw Unreadable("objects overlap", object.offset);
   }
 
   void checkDepth(std::size_t more, std::size_t offset) const {
@@ -107,12 +117,12 @@ class BinaryReader {
   std::deque<Known> known_;
   std::vector<Open> open_;
   std::uint32_t nodes_ = 0;
-  std::size_t rememberedText_ = 0;
+  std::size_t bytes_ = 0;  // of the objects so far, but for numbers
 };
 
 /// Gives `value` the object; false if it is a container that was opened only now.
 bool BinaryReader::read(std::uint64_t number, Value& value) {
-  if (states_[number] != kUnread) {
+  if (states_[number] >= kOpen) {
     value = readShared(number);
     return true;
   }
@@ -127,6 +137,7 @@ bool BinaryReader::read(std::uint64_t number, Value& value) {
       value = readText(object, number);
       return true;
     case Marker::Data:
+      countBytes(object, number);
       value = slice(Kind::Data, object);
       return true;
     default:
@@ -147,12 +158,10 @@ const Value& BinaryReader::readShared(std::uint64_t number) {
 }
 
 Value BinaryReader::readText(const Object& object, std::uint64_t number) {
+  countBytes(object, number);
   const bool ascii = object.marker == Marker::Ascii;
   if (ascii && !isAscii(object.bytes)) throw Unreadable("text beyond ASCII", object.offset);
   if (ascii && object.bytes.size() <= kShortText) return slice(Kind::String, object);
-  // Texts that lie over one another could otherwise add up to far more than the file.
-  rememberedText_ += object.bytes.size();
-  if (rememberedText_ > source_.bytes().size()) throw Unreadable("texts overlap", object.offset);
   remember(number, {ascii ? slice(Kind::String, object) : convert(object.bytes)});
   return known_.back().value;
 }
@@ -176,7 +185,7 @@ Value BinaryReader::readKey(std::uint64_t number) {
   if (states_[number] >= kKnown) {
     const Value& known = known_[states_[number] - kKnown].value;
     if (known.string()) return known;
-  } else if (states_[number] == kUnread) {
+  } else if (states_[number] < kOpen) {
     const Object object = file_.object(number);
     if (object.marker == Marker::Ascii || object.marker == Marker::Utf16) {
       return readText(object, number);
@@ -187,6 +196,7 @@ Value BinaryReader::readKey(std::uint64_t number) {
 
 void BinaryReader::open(const Object& object, std::uint64_t number) {
   checkDepth(1, object.offset);
+  countBytes(object, number);
   const bool dictionary = object.marker == Marker::Dictionary;
   const std::uint32_t before = nodes_;
   count(dictionary ? 2 * object.count : object.count);  // before any memory is set aside for them

@@ -63,22 +63,5 @@ TEST(BinaryLimit, SharedTextIsLookedAtOnce) {
   EXPECT_EQ(document.root.array()->size(), 390'000U);
 }
 
-TEST(BinaryLimit, TextsOverOneAnotherAreUnreadable) {
-  // Each text begins inside the one before: n of them would add up to n^2 bytes.
-  std::string head = "bplist00" + hex("AF 11 03E8");
-  for (int i = 1; i <= 1000; ++i) head += bigEndian(static_cast<std::uint64_t>(i), 2);
-  const std::size_t textsAt = head.size();
-  std::string texts;
-  for (int i = 0; i < 1000; ++i) texts += hex("6F 12 00000800");
-  texts += std::string(8192, '\0');
-  std::string file = head + texts;
-  const std::size_t tableAt = file.size();
-  file += bigEndian(8, 4);
-  for (std::size_t i = 0; i < 1000; ++i) file += bigEndian(textsAt + 6 * i, 4);
-  file += std::string(6, '\0') + hex("04 02") + bigEndian(1001, 8) + bigEndian(0, 8) +
-          bigEndian(tableAt, 8);
-  EXPECT_THROW(read(file), Unreadable);
-}
-
 }  // namespace
 }  // namespace plist
