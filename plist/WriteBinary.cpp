@@ -78,13 +78,12 @@ std::size_t textSize(std::string_view text) {
 
 /// What an object takes in the file, but for the references of a container.
 std::size_t objectSize(const Value& value) {
-  const std::uint64_t bits = Internals::bits(value);
   switch (Internals::kind(value)) {
     case Kind::Boolean:
       return 1;
     case Kind::Integer:
     case Kind::Uid:
-      return 1 + std::size_t{widthFor(bits)};
+      return 1 + std::size_t{widthFor(Internals::bits(value))};
     case Kind::Large:
       return 17;
     case Kind::Single:
@@ -110,6 +109,7 @@ class Numbering {
  public:
   explicit Numbering(const Value& root) {
     next(root);
+    // NOLINTNEXTLINE(modernize-loop-convert): the list grows as it is gone through
     for (std::size_t at = 0; at < objects.size(); ++at) {
       if (const Array* const array = objects[at]->array()) {
         makeRoom(array->size());
@@ -151,31 +151,37 @@ class Numbering {
     }
   }
 
-  /// Text and data that values share in memory they share in the file: a file never grows by being
-  /// read and written.
+  /// What values share in memory they share in the file, so that a small file that stands for many
+  /// values stays small when it is read, changed and written.
   std::uint32_t share(const Value& value) {
     std::uint32_t& slot = index_.slot(hash(value), [&](std::uint32_t number) {
       const Value& other = *objects[number];
-      return isSame(Internals::slice(other), Internals::slice(value)) &&
-             Internals::kind(other) == Internals::kind(value);
+      return Internals::kind(other) == Internals::kind(value) && place(other) == place(value);
     });
     if (slot == KeyIndex::kFree) slot = next(value) + 1;
     return slot - 1;
   }
 
+  /// A container that only one place holds is come by once, unless it stands in one that is shared
+  /// itself, which is gone through once.
   static bool isShared(const Value& value) {
     const Kind kind = Internals::kind(value);
-    return kind == Kind::String || kind == Kind::Data;
+    if (kind < Kind::Array) return kind >= Kind::String;
+    const Node* const node = Internals::node(value);
+    return node != nullptr && node->isShared();
   }
 
-  static bool isSame(std::string_view left, std::string_view right) {
-    return left.data() == right.data() && left.size() == right.size();
+  /// Where text, data or a container is in memory, and how many bytes of text or data.
+  static std::pair<const void*, std::size_t> place(const Value& value) {
+    if (Internals::kind(value) >= Kind::Array) return {Internals::node(value), 0};
+    const std::string_view bytes = Internals::slice(value);
+    return {bytes.data(), bytes.size()};
   }
   static std::uint64_t hash(const Value& value) {
-    return keyHash(reinterpret_cast<std::uintptr_t>(Internals::slice(value).data()));
+    return keyHash(reinterpret_cast<std::uintptr_t>(place(value).first));
   }
 
-  KeyIndex index_;  // numbers of the text and data
+  KeyIndex index_;  // numbers of what is shared
 };
 
 /// Fills a file whose size is known from the start, objects and table side by side.
@@ -217,8 +223,9 @@ class BinaryWriter {
 };
 
 char* BinaryWriter::writeObject(const Value& value, char* out) {
-  const std::uint64_t bits = Internals::bits(value);
-  switch (Internals::kind(value)) {
+  const Kind kind = Internals::kind(value);
+  const std::uint64_t bits = kind < Kind::String ? Internals::bits(value) : 0;
+  switch (kind) {
     case Kind::Boolean:
       return putHead(Marker::Simple, bits == 0 ? binary::kFalse : binary::kTrue, out);
     case Kind::Integer:

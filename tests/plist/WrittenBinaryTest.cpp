@@ -96,6 +96,42 @@ TEST(WrittenBinary, TextSharedInMemoryIsSharedInTheFile) {
   EXPECT_LT(writeBinary(Value(array)).size(), 1400U);
 }
 
+TEST(WrittenBinary, ContainersSharedInMemoryAreSharedInTheFile) {
+  // Pairs of the same pair: a few bytes each stand for 2^17 values.
+  std::vector<std::string> objects = {hex("A1 01")};
+  for (char next = 2; next <= 18; ++next) objects.push_back("\xA2" + std::string(2, next));
+  objects.push_back(hex("09"));
+  const std::string file = samples::binaryFile(objects, {.offsetSize = 1});
+  Document document = read(file);
+  document.root.array()->append(Value(true));
+  const std::string written = writeBinary(document.root);
+  // A reference, and twice an object with its offset: booleans are written at each place.
+  EXPECT_LE(written.size(), file.size() + 5);
+  EXPECT_EQ(read(written).root, document.root);
+}
+
+TEST(WrittenBinary, DictionariesSharedInMemoryAreSharedInTheFile) {
+  Dictionary dictionary;
+  for (int i = 0; i < 100; ++i) dictionary.set(std::to_string(i), Value::integer(i));
+  Array array;
+  for (int i = 0; i < 100; ++i) array.append(Value(dictionary));
+  const std::string written = writeBinary(Value(array));
+  EXPECT_LT(written.size(), 1500U);
+  EXPECT_EQ(read(written).root, Value(array));
+}
+
+TEST(WrittenBinary, ContainersThatPartedStayApart) {
+  Array inner;
+  inner.append(Value(true));
+  Array outer;
+  outer.append(Value(inner));
+  inner.append(Value(false));
+  outer.append(Value(inner));
+  outer.append(Value(Dictionary()));
+  outer.append(Value(Array()));
+  EXPECT_EQ(read(writeBinary(Value(outer))).root, Value(outer));
+}
+
 TEST(WrittenBinary, FileDoesNotGrowByBeingReadAndWritten) {
   std::string file = samples::binaryFile(
       {"\xA3\x01\x01\x02", hex("5F 10 10") + std::string(16, 'k'), "\xD1\x01\x01"},
