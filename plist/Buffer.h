@@ -35,6 +35,7 @@ class BufferLoan {
   explicit BufferLoan(std::string bytes) : buffer_(new Buffer(std::move(bytes))) {}
   BufferLoan(const BufferLoan&) = delete;
   BufferLoan& operator=(const BufferLoan&) = delete;
+  // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDelete): other references may outlive this one
   ~BufferLoan() { buffer_->release(left_ + 1); }
 
   std::string& bytes() noexcept { return buffer_->bytes; }
@@ -73,7 +74,7 @@ class BufferReturn {
 
  private:
   void flush() noexcept {
-    if (count_ != 0) buffer_->release(count_);
+    if (buffer_ != nullptr) buffer_->release(count_);
     count_ = 0;
   }
 

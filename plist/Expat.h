@@ -8,7 +8,7 @@ namespace plist {
 
 /// Expat keeps a tag or a comment until it is whole, and looks at it anew with each piece of input.
 /// One that needs more than this is refused, so that an endless one costs neither memory nor time.
-inline constexpr std::size_t kExpatBytes = 8 * 1024 * 1024;
+inline constexpr std::size_t kExpatBytes = std::size_t{8} * 1024 * 1024;
 
 /// Expat over the C++ allocator and within kExpatBytes; one at a time in a thread.
 class ExpatParser {

@@ -11,7 +11,7 @@
 namespace plist {
 namespace {
 
-constexpr std::size_t kPiece = 64 * 1024;
+constexpr std::size_t kPiece = std::size_t{64} * 1024;
 
 enum class Encoding { Utf8, Utf16Little, Utf16Big };
 

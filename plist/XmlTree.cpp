@@ -136,7 +136,7 @@ void Tree::place(Value value) {
   // The last of two values of one key stays, in the place of the first.
   DictionaryNode& node = Internals::own(*parent.container.dictionary());
   if (Value* const before = node.add(*std::move(parent.key), std::move(value))) {
-    *before = std::move(value);
+    *before = std::move(value);  // NOLINT(bugprone-use-after-move): then nothing was taken
   }
   parent.key.reset();
 }
