@@ -17,9 +17,10 @@ constexpr std::string_view kHead =
     "<plist version=\"1.0\">\n";
 constexpr std::string_view kFoot = "</plist>\n";
 
-// As the platform lays data out: 76 columns, a tab counting 8, and never more than 8 tabs.
+// As the platform lays data out: 76 columns, a tab counting 8, and never more than 8 tabs. No other
+// line has more either, so that a deep value does not take the square of its depth.
 constexpr std::size_t kDataColumns = 76;
-constexpr std::size_t kMostDataTabs = 8;
+constexpr std::size_t kMostTabs = 8;
 
 /// A container of which the elements from `next` on are still to be written.
 struct Open {
@@ -45,7 +46,8 @@ class XmlWriter {
   }
 
  private:
-  void indent() { out_.append(open_.size(), '\t'); }
+  [[nodiscard]] std::size_t tabs() const { return std::min(open_.size(), kMostTabs); }
+  void indent() { out_.append(tabs(), '\t'); }
 
   void tag(std::string_view before, std::string_view name, std::string_view after) {
     out_ += before;
@@ -158,9 +160,8 @@ void XmlWriter::writeText(std::string_view name, std::string_view text) {
 }
 
 void XmlWriter::writeData(std::string_view bytes) {
-  const std::size_t tabs = std::min(open_.size(), kMostDataTabs);
   out_ += "<data>\n";
-  appendBase64(bytes, tabs, kDataColumns - 8 * tabs, out_);
+  appendBase64(bytes, tabs(), kDataColumns - 8 * tabs(), out_);
   indent();
   out_ += "</data>\n";
 }
