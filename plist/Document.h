@@ -21,7 +21,10 @@ struct Document {
 
 /// Bounds that keep a hostile file from costing more than a large honest one.
 struct Limits {
-  std::uint32_t bytes = 16 * 1024 * 1024;  ///< Of input; 1 GiB is the most there can be.
+  /// Offsets of 32 bits reach all of it, even after UTF-16 has become longer UTF-8.
+  static constexpr std::uint32_t kMostBytes = 1U << 30;
+
+  std::uint32_t bytes = 16 * 1024 * 1024;  ///< Of a file; kMostBytes at most.
   std::uint32_t depth = 512;               ///< Containers inside one another.
   std::uint32_t nodes = 400'000;  ///< Values and keys, a shared one counted wherever it shows.
 };
@@ -45,8 +48,8 @@ class Unreadable : public std::runtime_error {
 /// in XML, the first in binary. A dictionary whose only key is CF$UID stays a dictionary.
 Document read(std::string bytes, const Limits& limits = {});
 
-/// The value in binary form, version 00; no key order or sharing is invented or lost.
-/// Throws std::bad_alloc.
+/// The value in binary form, version 00; keys keep their order, and text, data and containers that
+/// values share in memory they share in the file. Throws std::bad_alloc.
 std::string writeBinary(const Value& value);
 
 /// The value as XML, none when XML cannot carry some of it exactly: a date with a fraction, not
@@ -54,7 +57,9 @@ std::string writeBinary(const Value& value);
 /// A real of single width is written as the same number, which reads back in double width.
 std::optional<std::string> writeXml(const Value& value);
 
-/// What writeXml or writeBinary gives, whichever is wanted; binary also where XML gives none.
-std::string write(const Value& value, Form wanted);
+/// A file that read() takes within the limits: in the wanted form; in binary also where XML cannot
+/// carry the value or is too large. None where the value goes beyond the limits in either form.
+/// Throws std::bad_alloc.
+std::optional<std::string> write(const Value& value, Form wanted, const Limits& limits = {});
 
 }  // namespace plist

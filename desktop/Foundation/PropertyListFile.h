@@ -25,8 +25,9 @@ class UnreadableFile : public std::runtime_error {
 /// `UnreadableFile` for everything else.
 std::optional<PropertyListFile> readPropertyList(const PhoneFolder& folder, std::string_view path);
 
-/// Replaces the file, in its form (in binary where XML cannot carry a value exactly). Throws
-/// `std::system_error`.
+/// Replaces the file, in its form (in binary where XML cannot carry a value exactly or gets too
+/// large). Throws `std::system_error`: with `EFBIG`, before anything is touched, where
+/// `readPropertyList` would refuse what was written.
 void writePropertyList(const PhoneFolder& folder, std::string_view path,
                        const PropertyListFile& file);
 

@@ -1,10 +1,9 @@
-#include "tests/plist/Random.h"
-
 #include <cstdlib>
 #include <gtest/gtest.h>
 
 #include "plist/Document.h"
 #include "tests/plist/Describe.h"
+#include "tests/plist/Random.h"
 
 namespace plist {
 namespace {
@@ -59,6 +58,24 @@ TEST_F(RandomTree, WhateverXmlTakesItGivesBack) {
   forEach({}, [](const Value& tree) {
     if (const auto file = writeXml(tree)) {
       EXPECT_EQ(read(*file).root, samples::widened(tree));
+    }
+  });
+}
+
+TEST_F(RandomTree, IsWrittenJustWhereItIsReadBack) {
+  forEach({}, [](const Value& tree) {
+    const std::string file = writeBinary(tree);
+    for (std::uint32_t depth = 1; depth < 5; ++depth) {
+      for (std::uint32_t nodes = 1; nodes < 40; ++nodes) {
+        const Limits limits = {.depth = depth, .nodes = nodes};
+        bool isRead = true;
+        try {
+          read(file, limits);
+        } catch (const Unreadable&) {
+          isRead = false;
+        }
+        ASSERT_EQ(write(tree, Form::Binary, limits).has_value(), isRead) << depth << ' ' << nodes;
+      }
     }
   });
 }

@@ -121,11 +121,5 @@ TEST(WrittenXml, DataInLinesOf76Columns) {
             "<array>\n\t<data>\n\t" + std::string(68, 'A') + "\n\t</data>\n</array>\n");
 }
 
-TEST(WrittenXml, WriteFallsBackToBinary) {
-  EXPECT_EQ(write(Value(true), Form::Xml), *writeXml(Value(true)));
-  EXPECT_EQ(write(Value(true), Form::Binary), writeBinary(Value(true)));
-  EXPECT_EQ(write(Value::uid(1), Form::Xml), writeBinary(Value::uid(1)));
-}
-
 }  // namespace
 }  // namespace plist

@@ -1,0 +1,97 @@
+#include <gtest/gtest.h>
+
+#include "plist/Document.h"
+#include "tests/plist/Build.h"
+
+namespace plist {
+namespace {
+
+Value nested(std::size_t depth) {
+  Value value{Array()};
+  for (std::size_t i = 1; i < depth; ++i) {
+    Array outer;
+    outer.append(std::move(value));
+    value = Value(std::move(outer));
+  }
+  return value;
+}
+
+Value trues(std::size_t count) {
+  Array array;
+  for (; count > 0; --count) array.append(Value(true));
+  return Value(array);
+}
+
+/// Twice 3-byte characters: 6 bytes of UTF-8 each in XML, 4 of UTF-16 in binary.
+Value wideText(std::size_t pairs) {
+  return Value::string(samples::repeated("\xE4\xB8\x80\xE4\xB8\x80", pairs));
+}
+
+TEST(Write, GivesTheWantedForm) {
+  EXPECT_EQ(write(Value(true), Form::Xml), writeXml(Value(true)));
+  EXPECT_EQ(write(Value(true), Form::Binary), writeBinary(Value(true)));
+}
+
+TEST(Write, FallsBackToBinaryWhereXmlHasNoForm) {
+  EXPECT_EQ(write(Value::uid(1), Form::Xml), writeBinary(Value::uid(1)));
+}
+
+TEST(Write, FallsBackToBinaryWhereXmlIsTooLarge) {
+  const Value text = wideText(1000);
+  const auto xmlSize = static_cast<std::uint32_t>(writeXml(text)->size());
+  EXPECT_EQ(write(text, Form::Xml, {.bytes = xmlSize}), writeXml(text));
+  EXPECT_EQ(write(text, Form::Xml, {.bytes = xmlSize - 1}), writeBinary(text));
+}
+
+TEST(Write, GivesNoneWhereBothFormsAreTooLarge) {
+  const Value text = wideText(1000);
+  const auto size = static_cast<std::uint32_t>(writeBinary(text).size());
+  for (const Form form : {Form::Xml, Form::Binary}) {
+    EXPECT_TRUE(write(text, form, {.bytes = size}));
+    EXPECT_EQ(write(text, form, {.bytes = size - 1}), std::nullopt);
+  }
+}
+
+TEST(Write, GivesNoneBeyondTheDepth) {
+  for (const Form form : {Form::Xml, Form::Binary}) {
+    EXPECT_EQ(read(write(nested(512), form).value()).root, nested(512));
+    EXPECT_EQ(write(nested(513), form), std::nullopt);
+  }
+}
+
+TEST(Write, GivesNoneBeyondTheNumberOfNodes) {
+  for (const Form form : {Form::Xml, Form::Binary}) {
+    EXPECT_EQ(read(write(trues(399'999), form).value()).root.array()->size(), 399'999U);
+    EXPECT_EQ(write(trues(400'000), form), std::nullopt);
+  }
+}
+
+TEST(Write, KeysCountAsNodes) {
+  Dictionary dictionary;
+  dictionary.set("a", Value(true));
+  EXPECT_TRUE(write(Value(dictionary), Form::Binary, {.nodes = 3}));
+  EXPECT_EQ(write(Value(dictionary), Form::Binary, {.nodes = 2}), std::nullopt);
+  EXPECT_EQ(write(Value(true), Form::Binary, {.nodes = 0}), std::nullopt);
+}
+
+TEST(Write, GivesNoneAtOnceForWhatMemoryCouldNotHold) {
+  Value value(true);
+  for (int level = 0; level < 200; ++level) {
+    Array pair;
+    pair.append(value);
+    pair.append(value);
+    value = Value(pair);
+  }
+  EXPECT_EQ(write(value, Form::Binary), std::nullopt);
+  EXPECT_EQ(write(value, Form::Xml), std::nullopt);
+}
+
+TEST(Write, DeepXmlStaysAboutAsLarge) {
+  const std::string file =
+      samples::xmlFile(samples::repeated("<array>", 490) + samples::repeated("<true/>", 100'000) +
+                       samples::repeated("</array>", 490));
+  EXPECT_LT(writeXml(read(file).root).value().size(), 3 * file.size());
+}
+
+}  // namespace
+}  // namespace plist
