@@ -2,15 +2,22 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <string>
 
 #include "plist/Document.h"
+#include "tests/plist/Describe.h"
 
 namespace {
 
-using plist::Array;
-using plist::Dictionary;
-using plist::Value;
+// Small bounds, so that the fuzzer finds inputs at them.
+constexpr plist::Limits kLimits = {.depth = 64, .nodes = 5000};
+
+// What a file may grow to by being written: the least a reader takes for a value is a reference of
+// one byte to a number that others refer to as well, the most a writer makes of it 17 bytes with
+// an offset and a reference of 4 each.
+constexpr std::size_t kGrowth = 32;
+constexpr std::size_t kFixed = 256;  // what is around any value
 
 void require(bool holds, const char* what) {
   if (holds) return;
@@ -18,42 +25,37 @@ void require(bool holds, const char* what) {
   std::abort();
 }
 
-/// What XML gives back: reals of single width in double width.
-Value widened(const Value& value) {
-  if (value.singleReal()) return Value::real(*value.real());
-  if (const Array* const array = value.array()) {
-    Array wide;
-    for (const Value& item : *array) wide.append(widened(item));
-    return Value(wide);
+std::optional<plist::Document> readInput(const std::string& file) {
+  try {
+    return plist::read(file, kLimits);
+  } catch (const plist::Unreadable&) {
+    return {};
   }
-  if (const Dictionary* const dictionary = value.dictionary()) {
-    Dictionary wide;
-    for (const Dictionary::Entry& entry : *dictionary)
-      wide.set(entry.key(), widened(entry.value()));
-    return Value(wide);
-  }
-  return value;
 }
 
 }  // namespace
 
-/// Whatever is read survives both forms exactly, and nothing else than a refusal may happen.
+/// Whatever is read survives both forms exactly, and nothing else than a refusal may happen: an
+/// exception from reading what was written here ends the run.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
-  const std::string file(reinterpret_cast<const char*>(bytes), size);
-  // Small bounds, so that the fuzzer finds inputs at them.
-  const plist::Limits limits = {.depth = 64, .nodes = 5000};
-  try {
-    const plist::Document document = plist::read(file, limits);
-    const std::string binary = plist::writeBinary(document.root);
-    require(plist::read(binary, limits).root == document.root, "binary gives back something else");
-    require(plist::writeBinary(document.root) == binary, "binary is not the same twice");
-    if (const auto xml = plist::writeXml(document.root)) {
-      require(plist::read(*xml, limits).root == widened(document.root),
-              "XML gives back something else");
-    } else {
-      require(document.form == plist::Form::Binary, "what was XML has no form in XML");
-    }
-  } catch (const plist::Unreadable&) {
+  const auto document = readInput(std::string(reinterpret_cast<const char*>(bytes), size));
+  if (!document) return 0;
+  const plist::Value& root = document->root;
+
+  const std::string binary = plist::writeBinary(root);
+  require(plist::read(binary, kLimits).root == root, "binary gives back something else");
+  require(plist::writeBinary(root) == binary, "binary is not the same twice");
+
+  const auto xml = plist::writeXml(root);
+  if (xml) {
+    require(plist::read(*xml, kLimits).root == samples::widened(root),
+            "XML gives back something else");
+  } else {
+    require(document->form == plist::Form::Binary, "what was XML has no form in XML");
   }
+
+  const auto written = plist::write(root, document->form, kLimits);
+  require(written.has_value(), "what was read is not written");
+  require(written->size() <= kGrowth * size + kFixed, "written, it is far larger");
   return 0;
 }
