@@ -11,13 +11,12 @@ const style = (locator, name) => locator.evaluate((at, key) => getComputedStyle(
 /** What the bar looks like between the back button and the title. */
 const picture = ({ page }) => page.screenshot({ clip: { x: 110, y: 0, width: 40, height: 40 } });
 
-/** Scrolls until the first row with a text lies below that stretch of the bar. */
-async function scrollBelow(screen) {
-  const label = screen.page.locator('.page:not([inert]) .heading').nth(2);
-  await content(screen).evaluate((list, row) => {
-    list.scrollTop += row.getBoundingClientRect().top;
-  }, await label.elementHandle());
-  await eventually(async () => assert.ok((await label.boundingBox()).y < 5));
+/** Scrolls until something lies below the bar. */
+async function scrollBelow(screen, what) {
+  await content(screen).evaluate((list, at) => {
+    list.scrollTop += at.getBoundingClientRect().top;
+  }, await what.elementHandle());
+  await eventually(async () => assert.ok((await what.boundingBox()).y < 5));
 }
 
 scenario('rows scroll on below the bar and show through it', small, async (screen) => {
@@ -26,16 +25,20 @@ scenario('rows scroll on below the bar and show through it', small, async (scree
   assert.equal(list.y, 0);
   const atRest = await picture(screen);
   assert.deepEqual(await picture(screen), atRest, 'the picture is the same each time');
-  await scrollBelow(screen);
+  await scrollBelow(screen, screen.group('Size').locator('.heading'));
   assert.notDeepEqual(await picture(screen), atRest);
 });
 
 scenario('rows that lie below the bar cannot be touched there', small, async (screen) => {
   await screen.push('Clock');
-  await scrollBelow(screen);
-  const under = await screen.page.evaluate(() =>
-    document.elementFromPoint(130, 22).closest('.bar, .content').className);
-  assert.equal(under, 'bar');
+  const toggle = screen.group('Clock').getByRole('switch');
+  await scrollBelow(screen, toggle);
+  const { x, width } = await toggle.boundingBox();
+  const hit = await screen.page.evaluate(([from, to]) => {
+    const points = Array.from({ length: 40 }, (_, i) => from + ((i + 0.5) / 40) * (to - from));
+    return points.map((at) => document.elementFromPoint(at, 22).closest('.bar, .content').className);
+  }, [x, x + width]);
+  assert.deepEqual([...new Set(hit)], ['bar']);
 });
 
 scenario('the first row is clear of the bar, and a row comes clear of it with the keyboard', small,
