@@ -19,7 +19,8 @@ std::string repeated(std::string_view text, int times) {
 std::string arrayRoot(plist::Form form) {
   plist::Array array;
   array.append(plist::Value::integer(1));
-  return plist::write(plist::Value(array), form);
+  const plist::Value root(array);
+  return plist::write(root, form).value();
 }
 
 void writeTenThousandLevels(const fs::path& file) {

@@ -64,7 +64,7 @@ plist::Dictionary unknownKeys(Form form) {
 /// A file with values of every type under keys that nothing here knows.
 class UnknownKeys : public PhoneTest, public testing::WithParamInterface<Form> {
  protected:
-  UnknownKeys() { writeBytes(file, plist::write(Value(kept), GetParam())); }
+  UnknownKeys() { writeBytes(file, plist::write(Value(kept), GetParam()).value()); }
 
   /// Fails unless all but "key" is as it was.
   void expectKept() const {

@@ -90,7 +90,7 @@ void PhoneTest::restart() {
 void PhoneTest::storeOne(const char* key, int value, plist::Form form) {
   plist::Dictionary dictionary;
   dictionary.set(key, plist::Value::integer(value));
-  writeBytes(file, plist::write(plist::Value(dictionary), form));
+  writeBytes(file, plist::write(plist::Value(dictionary), form).value());
 }
 
 bool PhoneTest::reported(std::string_view part) const {

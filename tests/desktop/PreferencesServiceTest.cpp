@@ -58,6 +58,14 @@ TEST_F(PreferencesServiceTest, TurnsToBinaryWhereXmlCannotCarryTheValue) {
   EXPECT_EQ(value("other"), Value::integer(5));
 }
 
+TEST_F(PreferencesServiceTest, KnowsARealInAnXmlFileAgainInEitherWidth) {
+  set("key", Value::real(76.0));
+  writeBytes(file, plist::write(stored().root, Form::Xml).value());
+  const std::string before = portrait(file);
+  set("key", Value::real(76.0F));
+  EXPECT_EQ(portrait(file), before);
+}
+
 TEST_F(PreferencesServiceTest, RemovesAKey) {
   storeOne("key", 5);
   set("key", std::nullopt);

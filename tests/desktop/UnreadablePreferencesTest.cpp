@@ -82,7 +82,7 @@ TEST_P(UnreadablePreferences, TakeTheChangesOnceTheyAreReadable) {
   fs::remove_all(file);
   plist::Dictionary good;
   for (const char* key : {"changed", "removed", "other"}) good.set(key, Value::integer(1));
-  writeBytes(file, plist::write(Value(good), plist::Form::Xml));
+  writeBytes(file, plist::write(Value(good), plist::Form::Xml).value());
   restart();
   phone->preferences.settle(domain);
 
@@ -112,7 +112,7 @@ TEST_P(TruncatedPreferences, AreLeftAsTheyAreAtEveryLength) {
   plist::Dictionary dictionary;
   dictionary.set("text", Value::string("né"));
   dictionary.set("number", Value::integer(-20));
-  std::string whole = plist::write(Value(dictionary), GetParam());
+  std::string whole = plist::write(Value(dictionary), GetParam()).value();
   while (whole.back() == '\n') whole.pop_back();
   for (std::size_t length = 0; length < whole.size(); ++length) {
     SCOPED_TRACE(length);

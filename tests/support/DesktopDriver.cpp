@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <fstream>
 #include <functional>
 #include <gtest/gtest.h>
@@ -96,15 +95,6 @@ struct Driver::State {
     for (const auto& [key, value] : row.properties) body.setProperty(desktop::box(value), key);
     return specifier;
   }
-  platform::Object call(const std::string& selector, const platform::Object& first,
-                        const platform::Object& second = {}) {
-    const auto methods = page().methods();
-    const auto found = std::ranges::find(
-        methods, selector, [](const platform::Method& method) { return method.selector.name; });
-    if (found == methods.end()) throw std::runtime_error("no method " + selector);
-    return found->invoke(page(), first, second);
-  }
-
   TemporaryFolder folder;
   std::vector<std::string> reports;
   std::vector<std::string> posted;
@@ -171,12 +161,14 @@ std::vector<RowFacts> Driver::rows() {
 bool Driver::listIsCached() { return state_->page().specifiers() == state_->page().specifiers(); }
 
 std::optional<plist::Value> Driver::read(const LooseRow& row) {
-  const platform::Object value = state_->call("readPreferenceValue:", state_->loose(row));
+  const platform::Object value =
+      desktop::perform(state_->page(), "readPreferenceValue:", state_->loose(row));
   return value ? std::optional(desktop::unbox(value)) : std::nullopt;
 }
 
 void Driver::write(const LooseRow& row, const plist::Value& value) {
-  state_->call("setPreferenceValue:specifier:", desktop::box(value), state_->loose(row));
+  desktop::perform(state_->page(), "setPreferenceValue:specifier:", desktop::box(value),
+                   state_->loose(row));
 }
 
 void Driver::putFile(const std::string& bytes, const std::string& domain) {
@@ -185,7 +177,7 @@ void Driver::putFile(const std::string& bytes, const std::string& domain) {
 
 void Driver::putFile(const plist::Dictionary& dictionary, plist::Form form,
                      const std::string& domain) {
-  putFile(plist::write(plist::Value(dictionary), form), domain);
+  putFile(plist::write(plist::Value(dictionary), form).value(), domain);
 }
 
 void Driver::removeFile() { state_->phone.folder.remove(pathOf({})); }
@@ -212,7 +204,7 @@ void Driver::putListResource(int rows) {
   }
   plist::Dictionary resource;
   resource.set("items", plist::Value(items));
-  state_->phone.folder.replace(std::string(desktop::bundleFolder) + "/Root.plist",
+  state_->phone.folder.replace(state_->phone.bundle + "/Root.plist",
                                plist::writeBinary(plist::Value(resource)));
 }
 
