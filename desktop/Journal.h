@@ -30,12 +30,15 @@ class Argument {
 /// nothing in everyday use.
 class Journal {
  public:
+  /// Records from now on.
   void start() { recording_ = true; }
+  /// Forgets what was recorded.
   void clear() { lines_.clear(); }
 
   /// One line a message, as in `NSMutableDictionary setObject:1 forKey:"colorMode"`.
   const std::vector<std::string>& lines() const { return lines_; }
 
+  /// Adds a message, if the journal was started: the arguments follow the selector's colons.
   void record(std::string_view receiver, std::string_view selector,
               std::initializer_list<Argument> arguments);
 

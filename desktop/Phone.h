@@ -35,8 +35,11 @@ class Phone {
   /// The folder of the bundle that is open, whose resources its controllers load.
   std::string bundle;
 
+  /// Its file system.
   PhoneFolder folder;
+  /// What was asked of it.
   Journal journal;
+  /// The Darwin notify centre.
   NotifyCenter notifications;
   PreferencesService preferences;
 };

@@ -30,6 +30,7 @@ class Client : public std::enable_shared_from_this<Client> {
   /// showing what the finger did and shows the tree.
   void answer(const Tree& tree);
 
+  /// Tells the page that its last touch was refused, and why.
   void refuse(const std::string& reason);
 
  private:

@@ -14,6 +14,7 @@ class NotifyCenter {
   /// Calls `observer` for every notification from now on.
   void observe(Observer observer) { observers_.push_back(std::move(observer)); }
 
+  /// Tells every observer, before it returns. Observers must not observe meanwhile.
   void post(const std::string& name) const {
     for (const Observer& observer : observers_) observer(name);
   }

@@ -18,6 +18,7 @@ class SwitchCell : public Cell {
   explicit SwitchCell(platform::PSSpecifier specifier);
 
   bool isOn() const { return on_; }
+  /// The user put the switch there.
   void toggle(bool on);
 
  private:
@@ -29,6 +30,7 @@ class SliderCell : public Cell {
  public:
   explicit SliderCell(platform::PSSpecifier specifier);
 
+  /// What is shown, from `min` to `max`, in the row's own unit; so are the two ends.
   double value() const { return value_; }
   double min() const { return min_; }
   double max() const { return max_; }

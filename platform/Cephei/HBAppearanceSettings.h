@@ -12,18 +12,22 @@ enum class HBAppearanceSettingsLargeTitleStyle : unsigned long {
   Never = 2,
 };
 
-/// The look of a settings page.
+/// The look of a settings page. What is not set, or set to none, is the system's.
 class HBAppearanceSettings : public Object {
  public:
   /// A new object in which nothing is set.
   static HBAppearanceSettings init();
 
+  /// Of switches, sliders and the like.
   void setTintColor(const UIColor& color);
   void setNavigationBarTitleColor(const UIColor& color);
+  /// Of the bar's items: the back button, say.
   void setNavigationBarTintColor(const UIColor& color);
+  /// Of the lines between rows.
   void setTableViewCellSeparatorColor(const UIColor& color);
   void setNavigationBarBackgroundColor(const UIColor& color);
   void setTableViewCellTextColor(const UIColor& color);
+  /// Whether content shows through the bar.
   void setTranslucentNavigationBar(bool translucent);
   void setLargeTitleStyle(HBAppearanceSettingsLargeTitleStyle style);
 };

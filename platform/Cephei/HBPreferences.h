@@ -8,6 +8,7 @@ namespace platform {
 /// The platform's preferences service, for one domain.
 class HBPreferences : public Object {
  public:
+  /// A new object for the domain `identifier`, such as "com.example.thing".
   static HBPreferences initWithIdentifier(const NSString& identifier);
 
   /// Stores the value in the domain, which is made when there is none yet; a value that is none

@@ -19,6 +19,7 @@ class PSListController : public UIViewController {
 
   /// The list controller's own instance variable for its rows; none at first.
   NSArray _specifiers() const;
+  /// Keeps the rows; none forgets them.
   void set_specifiers(const NSArray& specifiers);
 };
 

@@ -9,6 +9,7 @@ class UIColor : public Object {
  public:
   /// Components from 0 to 1 in sRGB; alpha 0 is clear, 1 opaque.
   static UIColor colorWithRed(double red, double green, double blue, double alpha);
+  /// Opaque white.
   static UIColor whiteColor();
   /// Black with alpha 0.
   static UIColor clearColor();
