@@ -117,7 +117,7 @@ PhoneFolder::Place PhoneFolder::placeOf(std::string path) const {
     }
     if (!place.status || !S_ISLNK(status.st_mode)) return place;
     const std::string target = linkTarget(place.folder, place.name, path);
-    path = target.starts_with('/') ? target : std::string(parentOf(path)) + target;
+    path = target.starts_with('/') ? target : std::string(parentOf(path)).append(target);
   }
   fail(path, ELOOP);
 }
