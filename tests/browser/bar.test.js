@@ -29,6 +29,18 @@ scenario('rows scroll on below the bar and show through it', small, async (scree
   assert.notDeepEqual(await picture(screen), atRest);
 });
 
+scenario('the bar wears its color in full until rows lie below it', small, async (screen) => {
+  await screen.push('Clock');
+  assert.equal(await style(bar(screen), 'backgroundColor'), 'rgb(246, 146, 64)');
+  await scrollBelow(screen, screen.group('Size').locator('.heading'));
+  await eventually(async () => assert.equal(await style(bar(screen), 'backgroundColor'),
+    'color(srgb 0.964706 0.572549 0.25098 / 0.9)'));
+  assert.equal(await style(bar(screen), 'backdropFilter'), 'blur(20px)');
+  await content(screen).evaluate((list) => (list.scrollTop = 0));
+  await eventually(async () =>
+    assert.equal(await style(bar(screen), 'backgroundColor'), 'rgb(246, 146, 64)'));
+});
+
 scenario('rows that lie below the bar cannot be touched there', small, async (screen) => {
   await screen.push('Clock');
   const toggle = screen.group('Clock').getByRole('switch');

@@ -6,6 +6,8 @@ export function create() {
   const content = element('div', { class: 'content' });
   const bar = element('header', { class: 'bar' }, leading, title);
   const page = element('div', { class: 'page' }, bar, content);
+  // At rest nothing lies below the bar, and it wears its color in full.
+  content.addEventListener('scroll', () => page.classList.toggle('scrolled', content.scrollTop > 0));
   const view = { element: page, title, leading, content, scrolled: 0, left: null };
   return Object.assign(view, {
     leave: () => leave(view),
