@@ -137,6 +137,11 @@ TEST_F(PhoneSetupTest, WritesNothingThroughALinkOutOfTheFolder) {
   EXPECT_TRUE(fs::is_empty(outside.path));
 }
 
+TEST_F(PhoneSetupTest, RefusesACopyInWhichUserIsAFolderOfItsOwn) {
+  fs::create_directories(host("/User/Library/Preferences"));
+  EXPECT_THROW(setUp(), std::runtime_error);
+}
+
 TEST_F(PhoneSetupTest, RequiresAFolder) {
   writeBytes(host("/file"), "");
   EXPECT_NO_THROW(settings::requireFolder(folder.path));
