@@ -1,5 +1,7 @@
 #include "tests/plist/Build.h"
 
+#include <utility>
+
 namespace samples {
 namespace {
 
@@ -74,6 +76,16 @@ std::string repeated(std::string_view text, std::size_t times) {
   all.reserve(text.size() * times);
   for (; times > 0; --times) all += text;
   return all;
+}
+
+plist::Value nestedArrays(std::size_t depth) {
+  plist::Value value{plist::Array()};
+  for (std::size_t i = 1; i < depth; ++i) {
+    plist::Array outer;
+    outer.append(std::move(value));
+    value = plist::Value(std::move(outer));
+  }
+  return value;
 }
 
 }  // namespace samples

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "plist/Value.h"
+
 /// Files made by hand, byte by byte, so that a test can make them wrong.
 namespace samples {
 
@@ -34,5 +36,8 @@ std::string utf16(std::string_view ascii, bool bigEndian);
 
 /// `text` several times over.
 std::string repeated(std::string_view text, std::size_t times);
+
+/// `depth` arrays, each but the innermost holding the next one.
+plist::Value nestedArrays(std::size_t depth);
 
 }  // namespace samples

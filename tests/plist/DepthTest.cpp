@@ -23,19 +23,9 @@ std::string deepBinary(std::size_t depth) {
   return samples::binaryFile(arrays, {.referenceSize = 4});
 }
 
-Value deepValue(std::size_t depth) {
-  Value value{Array()};
-  for (std::size_t i = 1; i < depth; ++i) {
-    Array outer;
-    outer.append(std::move(value));
-    value = Value(std::move(outer));
-  }
-  return value;
-}
-
 TEST(Depth, FiveHundredAndTwelveAreReadAndOneMoreIsNot) {
-  EXPECT_EQ(read(deepXml(512)).root, deepValue(512));
-  EXPECT_EQ(read(deepBinary(512)).root, deepValue(512));
+  EXPECT_EQ(read(deepXml(512)).root, samples::nestedArrays(512));
+  EXPECT_EQ(read(deepBinary(512)).root, samples::nestedArrays(512));
   EXPECT_THROW(read(deepXml(513)), Unreadable);
   EXPECT_THROW(read(deepBinary(513)), Unreadable);
 }
@@ -57,18 +47,18 @@ TEST(Depth, SharedContainerCountsWhereItIsDeepest) {
 // A call of its own for each level would need more stack than there is.
 TEST(Depth, NothingCallsItselfForEachLevel) {
   constexpr std::size_t kLevels = 300'000;
-  const Value value = deepValue(kLevels);
-  const Value same = deepValue(kLevels);
+  const Value value = samples::nestedArrays(kLevels);
+  const Value same = samples::nestedArrays(kLevels);
   EXPECT_EQ(value, same);
   const std::string binary = writeBinary(value);
   EXPECT_EQ(read(binary, kNoDepthLimit).root, value);
 }
 
 TEST(Depth, DeepXmlIsWrittenAndReadWithoutCallingItself) {
-  const Value value = deepValue(kDeep);
+  const Value value = samples::nestedArrays(kDeep);
   EXPECT_EQ(read(deepXml(kDeep), kNoDepthLimit).root, value);
-  const std::string xml = *writeXml(deepValue(2000));
-  EXPECT_EQ(read(xml, kNoDepthLimit).root, deepValue(2000));
+  const std::string xml = *writeXml(samples::nestedArrays(2000));
+  EXPECT_EQ(read(xml, kNoDepthLimit).root, samples::nestedArrays(2000));
 }
 
 }  // namespace

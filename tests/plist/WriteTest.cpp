@@ -6,16 +6,6 @@
 namespace plist {
 namespace {
 
-Value nested(std::size_t depth) {
-  Value value{Array()};
-  for (std::size_t i = 1; i < depth; ++i) {
-    Array outer;
-    outer.append(std::move(value));
-    value = Value(std::move(outer));
-  }
-  return value;
-}
-
 Value trues(std::size_t count) {
   Array array;
   for (; count > 0; --count) array.append(Value(true));
@@ -54,8 +44,9 @@ TEST(Write, GivesNoneWhereBothFormsAreTooLarge) {
 
 TEST(Write, GivesNoneBeyondTheDepth) {
   for (const Form form : {Form::Xml, Form::Binary}) {
-    EXPECT_EQ(read(write(nested(512), form).value()).root, nested(512));
-    EXPECT_EQ(write(nested(513), form), std::nullopt);
+    EXPECT_EQ(read(write(samples::nestedArrays(512), form).value()).root,
+              samples::nestedArrays(512));
+    EXPECT_EQ(write(samples::nestedArrays(513), form), std::nullopt);
   }
 }
 
