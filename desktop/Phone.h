@@ -4,11 +4,13 @@
 #include <functional>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "desktop/Cephei/PreferencesService.h"
 #include "desktop/CoreFoundation/NotifyCenter.h"
 #include "desktop/Journal.h"
 #include "desktop/PhoneFolder.h"
+#include "platform/CoreGraphics/CGContext.h"
 
 namespace desktop {
 
@@ -31,6 +33,12 @@ class Phone {
 
   /// Classes whose library is not installed on this phone.
   std::set<std::string> missingClasses;
+
+  /// Pixels to a point.
+  double screenScale = 3;
+
+  /// What was begun to be drawn into, the current one last.
+  std::vector<platform::CGContext> contexts;
 
   /// The folder of the bundle that is open, whose resources its controllers load.
   std::string bundle;
