@@ -11,7 +11,7 @@ namespace platform {
 struct ControllerClass {
   const char* name;
   /// A new controller, not yet initialised.
-  std::unique_ptr<UIViewController> (*make)();
+  std::shared_ptr<UIViewController> (*make)();
 };
 
 /// The controllers that the bundle brings. Defined by the bundle, read by the platform: the

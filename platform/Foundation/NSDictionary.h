@@ -22,6 +22,9 @@ class NSDictionary : public Object {
 /// A dictionary that can be changed.
 class NSMutableDictionary : public NSDictionary {
  public:
+  /// A new empty dictionary.
+  static NSMutableDictionary init();
+
   /// As `dictionaryWithContentsOfFile`, into a new dictionary.
   static NSMutableDictionary initWithContentsOfFile(const NSString& path);
 

@@ -11,6 +11,9 @@ class NSNumber : public Object {
   static NSNumber numberWithBool(bool value);
   /// An integer.
   static NSNumber numberWithInt(int value);
+
+  /// Whether the number is not 0; false for none, and for an object that has no such answer.
+  bool boolValue() const;
 };
 
 }  // namespace platform

@@ -20,6 +20,13 @@ class NSString : public Object {
   /// argument's description, "(null)" for none.
   static NSString stringWithFormat(const char* format, std::initializer_list<Object> arguments);
 
+  /// `isKindOfClass:`; false for none.
+  static bool isKind(const Object& object);
+
+  /// The text without its last extension and the dot before it, as file names have it; a text that
+  /// only begins with a dot has none.
+  NSString stringByDeletingPathExtension() const;
+
   /// The text as UTF-8; empty for none.
   std::string UTF8String() const;
 };

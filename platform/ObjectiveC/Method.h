@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <type_traits>
@@ -48,12 +49,46 @@ struct Invocation<Function> {
   }
 };
 
+template <auto Member>
+struct Accessor;
+
+template <class Controller, class Value, Value Controller::*Member>
+struct Accessor<Member> {
+  static Object get(UIViewController& self, const Object&, const Object&) {
+    return static_cast<Controller&>(self).*Member;
+  }
+  static Object set(UIViewController& self, const Object& value, const Object&) {
+    static_cast<Controller&>(self).*Member = value.as<Value>();
+    return {};
+  }
+};
+
 }  // namespace detail
 
 /// The table entry of a member function: `method<&QMRoot::respring>("respring")`.
 template <auto Function>
 constexpr Method method(const char* selector) {
   return {selector, &detail::Invocation<Function>::invoke};
+}
+
+/// The table entries of a property: `getter<&QMRoot::iconView>("iconView")` and
+/// `setter<&QMRoot::iconView>("setIconView:")`.
+template <auto Member>
+constexpr Method getter(const char* selector) {
+  return {selector, &detail::Accessor<Member>::get};
+}
+template <auto Member>
+constexpr Method setter(const char* selector) {
+  return {selector, &detail::Accessor<Member>::set};
+}
+
+/// One table of a superclass's methods and a class's own.
+template <std::size_t Inherited, std::size_t Own>
+constexpr std::array<Method, Inherited + Own> joined(const std::array<Method, Inherited>& inherited,
+                                                     const std::array<Method, Own>& own) {
+  std::array<Method, Inherited + Own> all;
+  std::ranges::copy(own, std::ranges::copy(inherited, all.begin()).out);
+  return all;
 }
 
 }  // namespace platform

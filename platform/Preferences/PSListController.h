@@ -2,6 +2,7 @@
 
 #include "platform/Foundation/NSArray.h"
 #include "platform/Foundation/NSString.h"
+#include "platform/UIKit/UITableView.h"
 #include "platform/UIKit/UIViewController.h"
 
 namespace platform {
@@ -12,7 +13,13 @@ class PSListController : public UIViewController {
   /// The page's rows, asked for whenever they are needed.
   virtual NSArray specifiers();
 
+  void viewDidLoad() override;
+  void viewWillAppear(Animated animated) override;
+
  protected:
+  /// The table that shows the rows.
+  UITableView table();
+
   /// The rows of the list resource `name` of the bundle that the controller's class comes from,
   /// with `target` as each row's target. None when there is no such resource.
   NSArray loadSpecifiersFromPlistName(const NSString& name, PSListController& target);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/CoreGraphics/CGColor.h"
 #include "platform/Object.h"
 
 namespace platform {
@@ -13,6 +14,9 @@ class UIColor : public Object {
   static UIColor whiteColor();
   /// Black with alpha 0.
   static UIColor clearColor();
+
+  /// The same colour for layers.
+  platform::CGColor CGColor() const;
 };
 
 }  // namespace platform

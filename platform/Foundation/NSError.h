@@ -1,0 +1,10 @@
+#pragma once
+
+#include "platform/Object.h"
+
+namespace platform {
+
+/// Why something failed.
+class NSError : public Object {};
+
+}  // namespace platform
