@@ -8,8 +8,12 @@
 
 #include "desktop/Cephei/PreferencesService.h"
 #include "desktop/CoreFoundation/NotifyCenter.h"
+#include "desktop/Identity.h"
 #include "desktop/Journal.h"
+#include "desktop/MainQueue.h"
 #include "desktop/PhoneFolder.h"
+#include "desktop/SpringBoard.h"
+#include "platform/CoreGraphics/CGGeometry.h"
 #include "platform/CoreGraphics/CGContext.h"
 
 namespace desktop {
@@ -27,6 +31,9 @@ class Phone {
   /// The phone that is on.
   static Phone& current();
 
+  /// The screen's size, in points.
+  static constexpr platform::CGSize screenSize{390, 844};
+
   /// Tells the person at the desktop of something that the bundle keeps silent about. Goes to
   /// standard error unless replaced.
   std::function<void(const std::string& line)> report;
@@ -43,13 +50,23 @@ class Phone {
   /// The folder of the bundle that is open, whose resources its controllers load.
   std::string bundle;
 
+  /// Told the path of each mail that was sent, on the phone, once it lies there. Does nothing
+  /// unless replaced.
+  std::function<void(const std::string& path)> mailSent = [](const std::string&) {};
+
   /// Its file system.
   PhoneFolder folder;
+  /// What it says of itself: as its files said when it was switched on, unless replaced.
+  Identity identity = readIdentity(folder);
   /// What was asked of it.
   Journal journal;
   /// The Darwin notify centre.
   NotifyCenter notifications;
   PreferencesService preferences;
+  /// What is to happen later.
+  MainQueue mainQueue;
+  /// What owns its screen. Nothing is open at first.
+  SpringBoard springBoard{mainQueue};
 };
 
 }  // namespace desktop
