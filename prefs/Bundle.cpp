@@ -1,5 +1,6 @@
 #include "platform/Bundle.h"
 
+#include "lotties/QMLottiesList.h"
 #include "prefs/QMClockVC.h"
 #include "prefs/QMColorVC.h"
 #include "prefs/QMQuickActionsVC.h"
@@ -8,8 +9,8 @@
 namespace quillmere {
 
 template <class Controller>
-std::unique_ptr<platform::UIViewController> make() {
-  return std::make_unique<Controller>();
+std::shared_ptr<platform::UIViewController> make() {
+  return std::make_shared<Controller>();
 }
 
 }  // namespace quillmere
@@ -21,6 +22,7 @@ std::span<const platform::ControllerClass> platform::bundleClasses() {
       {"QMColorVC", &make<QMColorVC>},
       {"QMClockVC", &make<QMClockVC>},
       {"QMQuickActionsVC", &make<QMQuickActionsVC>},
+      {QMLottiesList::className, &make<QMLottiesList>},
   };
   return classes;
 }

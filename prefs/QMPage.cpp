@@ -5,7 +5,6 @@
 #include "platform/Foundation/NSDictionary.h"
 #include "prefs/Appearance.h"
 #include "prefs/Quillmere.h"
-#include "prefs/Rows.h"
 
 namespace quillmere {
 
@@ -26,11 +25,6 @@ void announce(const NSString& name) {
   CFNotificationCenterPostNotification(CFNotificationCenterGetDarwinNotifyCenter(), name, Object(),
                                        Object(), DeliverImmediately::Yes);
 }
-
-constexpr Method pageMethods[] = {
-    method<&QMPage::readPreferenceValue>(readSelector),
-    method<&QMPage::setPreferenceValue>(writeSelector),
-};
 
 }  // namespace
 

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <array>
 #include <span>
 
 #include "platform/Cephei/HBRootListController.h"
 #include "platform/Foundation/NSArray.h"
 #include "platform/Preferences/PSSpecifier.h"
+#include "prefs/Rows.h"
 
 namespace quillmere {
 
@@ -30,6 +32,11 @@ class QMPage : public platform::HBRootListController {
  protected:
   /// Builds the rows anew.
   virtual platform::NSMutableArray buildRows() = 0;
+};
+
+inline constexpr std::array pageMethods{
+    platform::method<&QMPage::readPreferenceValue>(readSelector),
+    platform::method<&QMPage::setPreferenceValue>(writeSelector),
 };
 
 }  // namespace quillmere

@@ -1,5 +1,6 @@
 #include "prefs/QMRoot.h"
 
+#include "lotties/QMLottiesList.h"
 #include "platform/Foundation/NSNumber.h"
 #include "prefs/Rows.h"
 
@@ -33,7 +34,33 @@ PSSpecifier creditsRow(QMRoot& page) {
   return row;
 }
 
+constexpr std::array rootMethods = joined(
+    pageMethods,
+    std::array{
+        method<&QMRoot::lottiesList>("lottiesList"),
+        method<&QMRoot::toggleState>("toggleState"),
+        method<&QMRoot::setEnableSwitchState>("setEnableSwitchState"),
+        method<&QMRoot::respring>("respring"),
+        method<&QMRoot::respringAfterEnable>("respringAfterEnable"),
+        method<&QMRoot::resetPreferences>("resetPreferences"),
+        method<&QMRoot::presentSupportMailController>("presentSupportMailController:"),
+        method<&QMRoot::scrollViewDidScroll>("scrollViewDidScroll:"),
+        getter<&QMRoot::titleLabel>("titleLabel"),
+        setter<&QMRoot::titleLabel>("setTitleLabel:"),
+        getter<&QMRoot::iconView>("iconView"),
+        setter<&QMRoot::iconView>("setIconView:"),
+        getter<&QMRoot::enableSwitch>("enableSwitch"),
+        setter<&QMRoot::enableSwitch>("setEnableSwitch:"),
+    });
+
 }  // namespace
+
+void QMRoot::lottiesList() {
+  navigationController().pushViewController(UIViewController::make(QMLottiesList::className),
+                                            Animated::Yes);
+}
+
+std::span<const Method> QMRoot::methods() const { return rootMethods; }
 
 NSMutableArray QMRoot::buildRows() {
   NSMutableArray rows = loadSpecifiersFromPlistName("Root", *this).mutableCopy();

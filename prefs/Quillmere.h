@@ -4,6 +4,7 @@
 /// Each stands here and nowhere else; rows and footers are made from it.
 namespace quillmere {
 
+inline constexpr const char* productName = "Quillmere";
 inline constexpr const char* bundlePath = "/Library/PreferenceBundles/Quillmere.bundle";
 
 /// The preferences domain, and the Darwin notification that announces a change of it.
@@ -30,7 +31,19 @@ struct Setting {
 /// Values of `colorMode`.
 enum ColorMode : int { originalColors = 1, customColor = 2 };
 
+/// The domain's file, as the preferences service keeps it.
+inline constexpr const char* preferencesFile =
+    "/var/mobile/Library/Preferences/com.orvalen.quillmere.plist";
+
+/// Present once the welcome screen was seen; its value does not matter.
+inline constexpr const char* showedWelcomeKey = "showedWelcomeVC";
+
+/// The names of the enabled animations, in the user's order.
+inline constexpr const char* enabledLottiesKey = "enabledLotties";
+
 namespace settings {
+
+inline constexpr Setting<bool> enabledSwitch{"enabledSwitch", true};
 
 inline constexpr Setting<int> colorMode{"colorMode", originalColors};
 inline constexpr Setting<const char*> tintColor{"tintColor", accentHex};
