@@ -21,7 +21,10 @@ Phone::Phone(const std::filesystem::path& host)
   phoneThatIsOn = this;
 }
 
-Phone::~Phone() { phoneThatIsOn = nullptr; }
+Phone::~Phone() {
+  springBoard.shutDown();  // What is open may still call on the phone.
+  phoneThatIsOn = nullptr;
+}
 
 Phone& Phone::current() {
   assert(phoneThatIsOn);

@@ -43,7 +43,7 @@ SettingsApplication::SettingsApplication(const std::string& label) {
   const std::string name = textAt(dictionaryAt(bundle + "/Info.plist"), "NSPrincipalClass");
   auto controller = makeController(name);
   if (!controller) throw std::runtime_error("the bundle has no class \"" + name + "\"");
-  stateOf(*controller).title = label;
+  setTitle(*controller, label);
   if (!controller->init()) throw std::runtime_error(name + " could not be initialised");
   navigation.push(std::move(controller));
 }

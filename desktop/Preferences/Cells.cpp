@@ -29,7 +29,7 @@ const std::vector<platform::Object>& objectsOf(const platform::NSArray& array) {
 void open(const std::string& className, const std::string& title, NavigationController& stack) {
   auto controller = makeController(className);
   if (!controller) return Phone::current().report("there is no class " + className + " to open");
-  stateOf(*controller).title = title;
+  setTitle(*controller, title);
   if (controller->init()) stack.push(std::move(controller));
 }
 

@@ -6,6 +6,7 @@
 
 #include "platform/Cephei/HBAppearanceSettings.h"
 #include "platform/Foundation/NSArray.h"
+#include "platform/UIKit/UITableView.h"
 #include "platform/UIKit/UIViewController.h"
 
 namespace desktop {
@@ -16,8 +17,11 @@ class NavigationController;
 struct ControllerState {
   /// The class that the controller was made as.
   std::string className;
-  /// The title of its navigation item.
-  std::string title;
+  platform::UINavigationItem navigationItem;
+  /// None until it is asked for.
+  platform::UIView view;
+  /// The list controller's table; none before its view was loaded.
+  platform::UITableView table;
   /// The list controller's `_specifiers`.
   platform::NSArray specifiers;
   platform::HBAppearanceSettings appearance;
@@ -30,6 +34,16 @@ struct ControllerState {
 /// The platform's side of this controller.
 ControllerState& stateOf(const platform::UIViewController& controller);
 
+/// The title of the controller's page; empty when it has none.
+std::string titleOf(const platform::UIViewController& controller);
+void setTitle(const platform::UIViewController& controller, const std::string& title);
+
+/// The controller's view, which is loaded when it is asked for first.
+platform::UIView viewOfController(platform::UIViewController& controller);
+
+/// Whether the controller has a method of that name.
+bool answers(const platform::UIViewController& controller, std::string_view selector);
+
 /// Calls the controller's method of that name, as a message would; none when it has no such method,
 /// which is reported.
 platform::Object perform(platform::UIViewController& controller, std::string_view selector,
@@ -37,6 +51,6 @@ platform::Object perform(platform::UIViewController& controller, std::string_vie
 
 /// A new controller of one of the bundle's classes, not yet initialised; null when there is no
 /// such class.
-std::unique_ptr<platform::UIViewController> makeController(const std::string& className);
+std::shared_ptr<platform::UIViewController> makeController(const std::string& className);
 
 }  // namespace desktop

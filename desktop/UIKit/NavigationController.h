@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "desktop/Body.h"
 #include "desktop/Preferences/ListView.h"
 #include "platform/UIKit/UIViewController.h"
 
@@ -15,7 +16,7 @@ class NavigationController {
   struct Page {
     /// Never used twice, so that what belonged to a page that is gone cannot be mistaken.
     unsigned number;
-    std::unique_ptr<platform::UIViewController> controller;
+    std::shared_ptr<platform::UIViewController> controller;
     std::vector<Section> sections;
   };
 
@@ -25,14 +26,31 @@ class NavigationController {
   Page& top() { return pages_.back(); }
 
   /// Puts a page on top and draws it.
-  void push(std::unique_ptr<platform::UIViewController> controller);
+  void push(std::shared_ptr<platform::UIViewController> controller);
 
   /// Drops the page on top and draws the one below; the first page stays.
   void pop();
 
+  /// What lies over all pages and takes all touches (an alert, a welcome screen, a mail composer);
+  /// none when nothing does.
+  const platform::Object& presented() const { return presented_; }
+
+  /// Shows such a screen. As on a phone, one over another is refused, and that reported.
+  void present(const platform::Object& screen);
+  void dismiss() { presented_ = {}; }
+
  private:
   std::vector<Page> pages_;
-  unsigned lastNumber_ = 0;
+  platform::Object presented_;
+};
+
+/// What the bundle holds of a stack.
+class NavigationBody : public Body {
+ public:
+  explicit NavigationBody(NavigationController& controller) : stack(controller) {}
+  std::string_view className() const override { return "UINavigationController"; }
+
+  NavigationController& stack;
 };
 
 }  // namespace desktop

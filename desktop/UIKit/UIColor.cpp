@@ -44,4 +44,6 @@ UIColor UIColor::whiteColor() { return colorWithRed(1, 1, 1, 1); }
 
 UIColor UIColor::clearColor() { return colorWithRed(0, 0, 0, 0); }
 
+platform::CGColor UIColor::CGColor() const { return as<platform::CGColor>(); }
+
 }  // namespace platform

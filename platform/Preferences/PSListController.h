@@ -14,7 +14,6 @@ class PSListController : public UIViewController {
   virtual NSArray specifiers();
 
   void viewDidLoad() override;
-  void viewWillAppear(Animated animated) override;
 
  protected:
   /// The table that shows the rows.

@@ -1,0 +1,30 @@
+#include "desktop/SpringBoard.h"
+
+#include <stdexcept>
+
+namespace desktop {
+
+void SpringBoard::open(const std::string& address) {
+  constexpr std::string_view scheme = "prefs:root=";
+  if (!address.starts_with(scheme)) throw std::runtime_error("nothing opens " + address);
+  application_ = std::make_unique<SettingsApplication>(address.substr(scheme.size()));
+  phase_ = Phase::Running;
+}
+
+void SpringBoard::respringAndReturnTo(const std::string& address) {
+  if (phase_ != Phase::Running) return;
+  phase_ = Phase::Dark;
+  if (onRespring) onRespring();
+  // What the application still meant to do ends with it. It ends in a turn of its own, since it
+  // may be the one that is asking.
+  queue_.clear();
+  queue_.after({}, [this] { application_.reset(); });
+  queue_.after(darkTime, [this] { phase_ = Phase::Locked; });
+  queue_.after(darkTime + lockedTime, [this, address] { open(address); });
+}
+
+NavigationController* SpringBoard::navigation() {
+  return phase_ == Phase::Running ? &application_->navigation : nullptr;
+}
+
+}  // namespace desktop

@@ -1,0 +1,56 @@
+#include "platform/UIKit/NSLayoutConstraint.h"
+
+#include "desktop/Message.h"
+#include "desktop/UIKit/AnchorBody.h"
+
+namespace desktop {
+
+std::string AnchorBody::description() const {
+  return std::string(viewOf(view)->className()) + '.' + std::string(nameOf(edge));
+}
+
+std::string ConstraintBody::description() const {
+  return desktop::description(first) + " = " + desktop::description(second);
+}
+
+}  // namespace desktop
+
+namespace platform {
+
+using desktop::AnchorBody;
+using desktop::ConstraintBody;
+
+namespace {
+
+void activate(const ConstraintBody& constraint) {
+  const auto& first = *desktop::bodyAs<AnchorBody>(constraint.first);
+  const auto& second = *desktop::bodyAs<AnchorBody>(constraint.second);
+  desktop::ViewBody& view = *desktop::viewOf(first.view);
+  view.tied.push_back(first.edge);
+  view.tiedTo = second.view;
+}
+
+}  // namespace
+
+NSLayoutConstraint NSLayoutAnchor::constraintEqualToAnchor(const NSLayoutAnchor& anchor) const {
+  return desktop::send<AnchorBody>(
+      *this, "constraintEqualToAnchor:", {anchor}, [&](AnchorBody&) {
+        return anchor ? desktop::make<NSLayoutConstraint, ConstraintBody>(*this, anchor)
+                      : NSLayoutConstraint();
+      });
+}
+
+void NSLayoutConstraint::activateConstraints(
+    std::initializer_list<NSLayoutConstraint> constraints) {
+  std::string list;
+  for (const NSLayoutConstraint& constraint : constraints) {
+    if (constraint) list += (list.empty() ? "" : ", ") + desktop::description(constraint);
+  }
+  desktop::sendClass("NSLayoutConstraint", "activateConstraints:", {std::string_view(list)}, [&] {
+    for (const NSLayoutConstraint& constraint : constraints) {
+      if (const auto* body = desktop::bodyAs<ConstraintBody>(constraint)) activate(*body);
+    }
+  });
+}
+
+}  // namespace platform
