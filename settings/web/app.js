@@ -1,6 +1,7 @@
 import './kit.js';
 import { Connection } from './connection.js';
 import { focusedElement } from './element.js';
+import { giveBack } from './layers.js';
 import { Tree } from './tree.js';
 
 const notices = {
@@ -15,17 +16,16 @@ let left = null;
 
 /** Shows whether the page is in touch; what cannot be answered cannot be touched. */
 function show(state) {
-  if (!stage.inert) left = focusedElement();
+  const wasOpen = !stage.inert;
+  if (wasOpen) left = focusedElement();
   stage.inert = state !== 'open';
   notice.textContent = notices[state];
-  if (state !== 'open') return;
-  const target = left.isConnected ? left : stage.querySelector('.page:not([inert]) .title');
-  target.focus({ preventScroll: true });
+  if (!wasOpen && state === 'open') giveBack(left);
 }
 
 const connection = new Connection({
   received: (message) => tree.receive(message),
   changed: show,
 });
-const tree = new Tree(stage, (touch) => connection.send(touch));
+const tree = new Tree(document.getElementById('pages'), (touch) => connection.send(touch));
 connection.open();

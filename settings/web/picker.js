@@ -1,7 +1,7 @@
 import Coloris from '/ui/coloris.js';
 import { element, setText } from './element.js';
+import { lay, lift } from './layers.js';
 
-const stage = document.getElementById('stage');
 const title = element('h2', { id: 'picker-title' });
 const done = element('button', { type: 'button', class: 'done' }, 'Done');
 const palette = element('div', { class: 'palette' });
@@ -10,9 +10,11 @@ const code = element('input', {
   class: 'code', type: 'text', 'aria-label': 'Hex color', maxlength: 9, autocomplete: 'off',
   spellcheck: 'false',
 });
-const sheet = element('dialog', { class: 'sheet', 'aria-modal': 'true', 'aria-labelledby': title.id },
+const sheet = element('dialog',
+  { class: 'sheet picker', open: true, tabindex: -1, 'aria-modal': 'true',
+    'aria-labelledby': title.id },
   element('header', {}, title, done), palette, element('div', { class: 'chosen' }, swatch, code));
-const shade = element('div', { class: 'shade' });
+const layer = { element: sheet, focus: () => done, escape: close, outside: close };
 
 let request = null;
 let picked = '';
@@ -34,13 +36,9 @@ Coloris({
 export async function openPicker(wish) {
   request = wish;
   setText(title, wish.title);
-  stage.append(shade, sheet);
-  stage.querySelector('.window').inert = true;
-  sheet.inert = false;
-  sheet.show();
+  lay(layer);
   Coloris({ parent: palette, alpha: wish.alpha });
   point(wish.color);
-  done.focus();
   await Promise.all(sheet.getAnimations().map(({ finished }) => finished.catch(() => {})));
   // Where the palette lies is measured, so it has to be measured again at its resting place.
   Coloris.updatePosition();
@@ -94,33 +92,9 @@ function close() {
   document.activeElement.blur();
   const { closed } = request;
   request = null;
-  sheet.inert = true;
-  stage.querySelector('.window').inert = false;
+  lift(layer);
   closed(picked);
-  withdraw();
-}
-
-/** Lets the sheet sink away, unless it is called back meanwhile. */
-async function withdraw() {
-  const duration = matchMedia('(prefers-reduced-motion: reduce)').matches ? 0 : 250;
-  const timing = { duration, easing: 'ease-in', fill: 'forwards' };
-  const sinking = [
-    sheet.animate({ transform: 'translateY(100%)' }, timing),
-    shade.animate({ opacity: 0 }, timing),
-  ];
-  await Promise.all(sinking.map(({ finished }) => finished));
-  for (const animation of sinking) animation.cancel();
-  if (request) return;
-  sheet.close();
-  shade.remove();
-  sheet.remove();
 }
 
 done.addEventListener('click', close);
-shade.addEventListener('click', close);
 code.addEventListener('change', typed);
-sheet.addEventListener('keydown', (event) => {
-  if (event.key === 'Escape') close();
-  // The palette would keep Tab to itself and never let it reach the Done button.
-  event.stopPropagation();
-});

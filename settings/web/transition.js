@@ -4,11 +4,11 @@ const timing = { duration: 350, easing: 'cubic-bezier(0.32, 0.72, 0, 1)', fill: 
 const moves = [
   ['front', '.content', [{ transform: 'translateX(100%)' }, { transform: 'none' }]],
   ['front', '.bar', [{ opacity: 0 }, { opacity: 1 }]],
-  ['front', '.title', [{ transform: 'translateX(60%)' }, { transform: 'none' }]],
+  ['front', '.middle', [{ transform: 'translateX(60%)' }, { transform: 'none' }]],
   ['front', '.leading', [{ transform: 'translateX(60%)' }, { transform: 'none' }]],
   ['back', '.content', [{ transform: 'none', filter: 'brightness(1)' },
                         { transform: 'translateX(-30%)', filter: 'brightness(0.9)' }]],
-  ['back', '.title', [{ transform: 'none' }, { transform: 'translateX(-60%)' }]],
+  ['back', '.middle', [{ transform: 'none' }, { transform: 'translateX(-60%)' }]],
 ];
 
 /**

@@ -10,18 +10,18 @@ const root = 'window';
 
 /** Keeps the elements of the page in step with the nodes that were sent. */
 export class Tree {
-  #stage;
+  #pages;
   #send;
   #nodes = new Map();
   #views = new Map();
   #touched = new Set();
 
   /**
-   * @param {HTMLElement} stage where the window goes
+   * @param {HTMLElement} pages where the window goes
    * @param {function(Object): void} send takes a touch
    */
-  constructor(stage, send) {
-    this.#stage = stage;
+  constructor(pages, send) {
+    this.#pages = pages;
     this.#send = send;
   }
 
@@ -46,7 +46,7 @@ export class Tree {
     for (const id of ids) if (this.#views.has(id)) this.#refresh(id);
     if (!windowChanged) return;
     if (this.#views.has(root)) this.#refresh(root);
-    else this.#stage.append(this.#view(root).element);
+    else this.#pages.append(this.#view(root).element);
   }
 
   #refresh(id) {
@@ -69,27 +69,33 @@ export class Tree {
     return view;
   }
 
-  /** What a kind may ask of the tree. */
+  /**
+   * What a kind may ask of the tree. A touch is its own, or of a button that its node names; what
+   * `place` is to leave alone in the container is told by a selector.
+   */
   #context(id) {
     return {
       id,
-      touch: (touch) => this.#touch({ ...touch, id }),
+      touch: (touch, target = id) => this.#touch(id, { ...touch, id: target }),
+      node: (other) => this.#nodes.get(other),
       view: (other) => this.#view(other),
-      place: (container, ids) => this.#place(container, ids),
+      place: (container, ids, spared) => this.#place(container, ids, spared),
       isTop: () => this.#nodes.get(root).children.at(-1) === id,
     };
   }
 
   /** The answer to a touch puts its control right, also when it left the node as it was. */
-  #touch(touch) {
-    this.#touched.add(touch.id);
+  #touch(control, touch) {
+    this.#touched.add(control);
     this.#send(touch);
   }
 
   /** Makes the children of a container those of the given ids, moving only what is out of place. */
-  #place(container, ids) {
+  #place(container, ids, spared = ':not(*)') {
     const wanted = ids.filter((id) => this.#isDrawable(id)).map((id) => this.#view(id).element);
-    for (const child of [...container.children]) if (!wanted.includes(child)) child.remove();
+    for (const child of [...container.children]) {
+      if (!wanted.includes(child) && !child.matches(spared)) child.remove();
+    }
     wanted.forEach((child, index) => {
       const there = container.children[index];
       if (there !== child) container.insertBefore(child, there ?? null);

@@ -10,8 +10,9 @@ export function update(view, node) {
   view.element.replaceChildren(...node.people.map(column));
 }
 
-function column({ name, detail, url }) {
+function column({ name, detail, url, image }) {
   const lines = [
+    ...(image ? [element('img', { class: 'avatar', src: image, alt: '' })] : []),
     element('span', { class: 'name' }, name),
     element('span', { class: 'detail' }, detail),
   ];

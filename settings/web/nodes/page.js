@@ -1,14 +1,21 @@
 import { element, setText } from '../element.js';
 
-export function create() {
+export function create(_, context) {
   const title = element('h1', { class: 'title', tabindex: -1 });
+  // What it says, the title says to those who do not see it.
+  const titleView = element('div', { class: 'title-view', 'aria-hidden': 'true' });
   const leading = element('div', { class: 'leading' });
-  const content = element('div', { class: 'content' });
-  const bar = element('header', { class: 'bar' }, leading, title);
-  const page = element('div', { class: 'page' }, bar, content);
-  // At rest nothing lies below the bar, and it wears its color in full.
-  content.addEventListener('scroll', () => page.classList.toggle('scrolled', content.scrollTop > 0));
-  const view = { element: page, title, leading, content, scrolled: 0, left: null };
+  const trailing = element('div', { class: 'trailing' });
+  const header = element('div', { class: 'header' });
+  const list = element('div', { class: 'list' });
+  const covers = element('div', { class: 'covers' });
+  const content = element('div', { class: 'content' }, header, list);
+  const middle = element('div', { class: 'middle' }, title, titleView);
+  const bar = element('header', { class: 'bar' }, leading, middle, trailing);
+  const page = element('div', { class: 'page' }, bar, content, covers);
+  const view = { element: page, title, content, children: [], scrolled: 0, left: null };
+  Object.assign(view, { places: { titleView, back: leading, trailing, header }, list, covers });
+  watch(view, context);
   return Object.assign(view, {
     leave: () => leave(view),
     enter: () => title.focus({ preventScroll: true }),
@@ -19,15 +26,51 @@ export function create() {
 /** A covered page is sent without its rows; it keeps showing those it had while it slides away. */
 export function update(view, node, context) {
   if (!context.isTop()) return;
+  Object.assign(view, { scrolls: node.scrolls, children: node.children });
   setText(view.title, node.title);
-  const { translucent, ...colors } = node.style;
+  view.title.classList.toggle('unseen', Boolean(node.titleView));
+  dress(view, node.style);
+  for (const [name, place] of Object.entries(view.places)) {
+    context.place(place, node[name] ? [node[name]] : []);
+  }
+  context.place(view.list, node.children);
+  context.place(view.covers, node.covers ?? []);
+}
+
+function dress(view, { translucent, ...colors }) {
   for (const [part, color] of Object.entries(colors)) {
     view.element.style.setProperty(`--${part}`, color);
   }
   view.element.classList.toggle('translucent', Boolean(translucent));
   document.querySelector('meta[name=theme-color]').content = colors.bar;
-  context.place(view.leading, node.back ? [node.back] : []);
-  context.place(view.content, node.children);
+}
+
+/** Has an act done in the next frame, however often it is asked for before. */
+function eachFrame(act) {
+  let frame = null;
+  return () => (frame ??= requestAnimationFrame(() => {
+    frame = null;
+    act();
+  }));
+}
+
+/** Follows what comes into view. A page that something lies over tells nothing. */
+function watch(view, context) {
+  const { element: page, content } = view;
+  const isCovered = () => page.closest('[inert]') !== null;
+  const look = eachFrame(() => {
+    if (!isCovered()) for (const id of view.children) context.view(id).look?.();
+  });
+  const tell = eachFrame(() => {
+    if (view.scrolls && !isCovered()) context.touch({ kind: 'scroll', y: content.scrollTop });
+  });
+  new ResizeObserver(look).observe(content);
+  content.addEventListener('scroll', () => {
+    // At rest nothing lies below the bar, and it wears its color in full.
+    page.classList.toggle('scrolled', content.scrollTop > 0);
+    look();
+    tell();
+  });
 }
 
 function rows(view) {

@@ -1,11 +1,19 @@
 import { element } from '../element.js';
+import { lay, lift } from '../layers.js';
 import { slide } from '../transition.js';
 
 export function create() {
-  return { element: element('main', { class: 'window' }), ids: [], animations: [] };
+  return { element: element('main', { class: 'window' }), ids: [], animations: [], overlay: null };
 }
 
 export function update(view, node, context) {
+  const overlay = node.overlay ? context.view(node.overlay) : null;
+  // Nobody sees a page move below something that hides it.
+  show(view, node, context, Boolean(overlay?.hides || view.overlay?.hides));
+  cover(view, overlay);
+}
+
+function show(view, node, context, isHidden) {
   const before = view.ids;
   view.ids = node.children;
   const shown = before.at(-1);
@@ -14,8 +22,16 @@ export function update(view, node, context) {
   const leaving = view.top;
   const coming = (view.top = context.view(wanted));
   for (const animation of view.animations) animation.cancel();
-  if (!leaving || node.children.length === before.length) return settle(view, context);
+  const isSwap = isHidden || node.children.length === before.length;
+  if (!leaving || isSwap) return settle(view, context);
   move(view, context, leaving, coming, node.children.length > before.length);
+}
+
+function cover(view, overlay) {
+  if (view.overlay === overlay) return;
+  if (view.overlay) lift(view.overlay);
+  if (overlay) lay(overlay);
+  view.overlay = overlay;
 }
 
 function move(view, context, leaving, coming, isPush) {

@@ -1,0 +1,17 @@
+import { element } from './element.js';
+
+const units = ['bytes', 'KB', 'MB', 'GB'];
+
+/** A row that opens an attachment in a tab of its own. */
+export function attachment({ name, size, address }) {
+  return element('li', {}, element('a', {
+    class: 'attachment', href: address, target: '_blank', rel: 'noopener noreferrer',
+  }, element('span', { class: 'name' }, name), element('span', { class: 'size' }, humanSize(size))));
+}
+
+/** A number of bytes in the unit that suits it. */
+function humanSize(bytes) {
+  const power = Math.min(Math.floor(Math.log10(Math.max(bytes, 1)) / 3), units.length - 1);
+  const digits = { maximumFractionDigits: power && 1 };
+  return `${(bytes / 1000 ** power).toLocaleString('en', digits)} ${units[power]}`;
+}

@@ -1,0 +1,94 @@
+import Sortable from '/ui/sortable.js';
+
+const options = {
+  draggable: '.cell', handle: '.grip', forceFallback: true, fallbackTolerance: 3,
+  ghostClass: 'dragged', fallbackClass: 'carried', scrollSensitivity: 66, scrollSpeed: 12,
+  // Which rows give way is worked out from where they are, for most of a long list is not there.
+  sort: false,
+};
+
+/** Rows that are dragged by their grips. */
+export class Drag {
+  #lists;
+  #drop;
+  #from = null;
+  #y = 0;
+  #over = null;
+
+  /**
+   * @param {HTMLElement[]} lists of cells, all of the same height
+   * @param {function(string, {section: number, row: number}): void} drop hears which cell was
+   *     dropped where
+   */
+  constructor(lists, drop) {
+    this.#lists = lists;
+    this.#drop = drop;
+  }
+
+  /** Lets the rows of a list be dragged. */
+  watch(list) {
+    Sortable.create(list, {
+      ...options, onStart: ({ item }) => this.#start(item), onEnd: () => this.#end(),
+    });
+  }
+
+  /** Makes way for the row in the hand; without one all rows stand where they belong. */
+  arrange() {
+    const shown = this.#from && this.#gap();
+    for (const list of this.#lists) {
+      list.classList.toggle('sorting', Boolean(this.#from));
+      for (const cell of list.children) this.#shift(cell, shown);
+    }
+  }
+
+  #start(item) {
+    const { section, row, node } = item.dataset;
+    const { top, height } = item.getBoundingClientRect();
+    this.#from = { id: node, section: Number(section), row: Number(row), height };
+    this.#y = top + height / 2;
+    this.#over = new AbortController();
+    addEventListener('pointermove', ({ clientY }) => {
+      this.#y = clientY;
+      this.arrange();
+    }, { signal: this.#over.signal });
+    this.arrange();
+  }
+
+  /** The gap stays until the answer says where the row belongs now. */
+  #end() {
+    this.#over.abort();
+    const { id } = this.#from;
+    const place = this.#below();
+    this.#from = null;
+    this.#drop(id, place);
+  }
+
+  /** The position below the finger: that of the list which is nearest to it. */
+  #below() {
+    const distances = this.#lists.map((list) => {
+      const { top, bottom } = list.getBoundingClientRect();
+      return list.hidden ? Infinity : Math.max(0, top - this.#y, this.#y - bottom);
+    });
+    const section = distances.indexOf(Math.min(...distances));
+    const { top, height } = this.#lists[section].getBoundingClientRect();
+    const count = Math.round(height / this.#from.height);
+    const last = section === this.#from.section ? count - 1 : count;
+    const row = Math.floor((this.#y - top) / this.#from.height);
+    return { section, row: Math.min(last, Math.max(0, row)) };
+  }
+
+  /** Only the row's own list makes way for it. */
+  #gap() {
+    const { section, row } = this.#below();
+    return section === this.#from.section ? row : this.#from.row;
+  }
+
+  #shift(cell, gap) {
+    const { section, row } = cell.dataset;
+    const isNear = this.#from?.section === Number(section) && !cell.matches('.carried');
+    const rest = Number(row) - (Number(row) > this.#from?.row ? 1 : 0);
+    const rows = isNear ? rest + (rest >= gap ? 1 : 0) - Number(row) : 0;
+    cell.classList.toggle('vacated', isNear && Number(row) === this.#from.row);
+    cell.style.translate = rows ? `0 ${rows * this.#from.height}px` : '';
+  }
+}

@@ -1,0 +1,43 @@
+import { element, setText } from '../element.js';
+
+/** What the row's buttons are called, before the row's own label. */
+const names = { insert: 'Insert', delete: 'Delete' };
+
+export function create(_, context) {
+  const control = element('button', { type: 'button', class: 'control' });
+  const label = element('span', { class: 'label' });
+  const grip = element('button',
+    { type: 'button', class: 'grip', 'aria-keyshortcuts': 'ArrowUp ArrowDown' });
+  const confirm = element('button', { type: 'button', class: 'confirm', hidden: true }, 'Delete');
+  const cell = element('div', { class: 'cell', role: 'listitem' }, control, label, grip, confirm);
+  const view = { element: cell, control, label, grip, confirm };
+  control.addEventListener('click', () => context.touch({ kind: 'tap' }, view.node.control));
+  confirm.addEventListener('click', () => context.touch({ kind: 'tap' }, view.node.confirm));
+  return view;
+}
+
+export function update(view, node) {
+  view.node = node;
+  ask(view, node);
+  const { element: cell, control, label, grip, confirm } = view;
+  Object.assign(cell.dataset, { section: node.section, row: node.row, editing: node.editing });
+  cell.style.setProperty('--row', node.row);
+  cell.ariaPosInSet = String(node.row + 1);
+  setText(label, node.label);
+  label.style.color = node.color;
+  control.hidden = !node.control;
+  control.ariaLabel = `${names[node.editing]} ${node.label}`;
+  confirm.ariaLabel = `Delete ${node.label} now`;
+  grip.hidden = !node.movable;
+  grip.ariaLabel = `Reorder ${node.label}`;
+}
+
+/** Shows or withdraws the button that confirms; the keyboard goes along. */
+function ask({ element: cell, control, confirm }, node) {
+  const isHeld = cell.contains(document.activeElement);
+  const isNew = confirm.hidden && node.confirm;
+  const isOver = document.activeElement === confirm && !node.confirm;
+  confirm.hidden = !node.confirm;
+  if (isHeld && isNew) confirm.focus({ preventScroll: true });
+  if (isOver) control.focus({ preventScroll: true });
+}
