@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "desktop/Body.h"
+#include "platform/Foundation/NSArray.h"
 
 namespace desktop {
 
@@ -17,6 +18,7 @@ class ArrayBody : public Body {
   std::string_view className() const override {
     return isMutable_ == Mutable::Yes ? "NSMutableArray" : "NSArray";
   }
+  /// Of a long list the first objects, and how many there are.
   std::string description() const override;
   bool isEqual(const Body& other) const override;
 
@@ -25,5 +27,15 @@ class ArrayBody : public Body {
  private:
   Mutable isMutable_;
 };
+
+/// Raises `NSInvalidArgumentException` for none, which no array holds.
+void requireObject(const platform::Object& object);
+
+/// Raises `NSRangeException` for the index of none of `count` objects.
+void requireIndex(std::size_t index, std::size_t count);
+
+/// The objects of an array that is an argument; none has none. Raises
+/// `NSInvalidArgumentException` for objects of other classes.
+std::vector<platform::Object> objectsIn(const platform::NSArray& array);
 
 }  // namespace desktop

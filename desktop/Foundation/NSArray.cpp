@@ -3,16 +3,26 @@
 #include <algorithm>
 
 #include "desktop/Foundation/ArrayBody.h"
+#include "desktop/Foundation/PredicateBody.h"
 #include "desktop/Message.h"
+#include "platform/Foundation/NSPredicate.h"
 
 namespace desktop {
 
+namespace {
+
+/// A long list is for programs, not for people: a journal line or a report names how long it is.
+constexpr std::size_t mostDescribed = 20;
+
+}  // namespace
+
 std::string ArrayBody::description() const {
   std::string text = "(";
-  for (const platform::Object& object : objects) {
-    if (text.size() > 1) text += ", ";
-    text += desktop::debugDescription(object);
+  for (std::size_t index = 0; index < std::min(objects.size(), mostDescribed); ++index) {
+    if (index > 0) text += ", ";
+    text += desktop::debugDescription(objects[index]);
   }
+  if (objects.size() > mostDescribed) text += ", … (" + std::to_string(objects.size()) + ")";
   return text + ")";
 }
 
@@ -20,6 +30,22 @@ bool ArrayBody::isEqual(const Body& other) const {
   const auto* that = dynamic_cast<const ArrayBody*>(&other);
   return that && std::ranges::equal(objects, that->objects,
                                     [](const auto& a, const auto& b) { return a.isEqual(b); });
+}
+
+void requireObject(const platform::Object& object) {
+  if (!object) throw invalidArgument("an array takes no nil object");
+}
+
+void requireIndex(std::size_t index, std::size_t count) {
+  if (index >= count) {
+    throw rangeException("index " + std::to_string(index) + " beyond the end of the array");
+  }
+}
+
+std::vector<platform::Object> objectsIn(const platform::NSArray& array) {
+  if (!array) return {};
+  if (const auto* body = bodyAs<ArrayBody>(array)) return body->objects;
+  throw invalidArgument(debugDescription(array) + " is no array");
 }
 
 }  // namespace desktop
@@ -30,16 +56,14 @@ using desktop::ArrayBody;
 using desktop::send;
 using Mutable = ArrayBody::Mutable;
 
-namespace {
-
-void require(const Object& object) {
-  if (!object) throw desktop::invalidArgument("an array takes no nil object");
+bool NSArray::isKind(const Object& object) {
+  return send<desktop::Body>(object, "isKindOfClass:", {"NSArray"}, [](desktop::Body& self) {
+    return dynamic_cast<ArrayBody*>(&self) != nullptr;
+  });
 }
 
-}  // namespace
-
 NSArray NSArray::arrayWithObjects(std::initializer_list<Object> objects) {
-  std::ranges::for_each(objects, &require);
+  std::ranges::for_each(objects, &desktop::requireObject);
   return desktop::make<NSArray, ArrayBody>(std::vector(objects), Mutable::No);
 }
 
@@ -50,48 +74,25 @@ std::size_t NSArray::count() const {
 Object NSArray::objectAtIndex(std::size_t index) const {
   return send<ArrayBody>(*this, "objectAtIndex:", {static_cast<double>(index)},
                          [&](ArrayBody& self) {
-                           if (index >= self.objects.size()) {
-                             throw desktop::rangeException("index " + std::to_string(index) +
-                                                           " beyond the end of the array");
-                           }
+                           desktop::requireIndex(index, self.objects.size());
                            return self.objects[index];
                          });
+}
+
+NSArray NSArray::filteredArrayUsingPredicate(const NSPredicate& predicate) const {
+  return send<ArrayBody>(*this, "filteredArrayUsingPredicate:", {predicate}, [&](ArrayBody& self) {
+    const auto* asked = desktop::bodyAs<desktop::PredicateBody>(predicate);
+    if (!asked) throw desktop::invalidArgument("an array is filtered by a predicate");
+    std::vector<Object> chosen;
+    std::ranges::copy_if(self.objects, std::back_inserter(chosen),
+                         [&](const Object& object) { return asked->isTrueOf(object); });
+    return desktop::make<NSArray, ArrayBody>(std::move(chosen), Mutable::No);
+  });
 }
 
 NSMutableArray NSArray::mutableCopy() const {
   return send<ArrayBody>(*this, "mutableCopy", {}, [](ArrayBody& self) {
     return desktop::make<NSMutableArray, ArrayBody>(self.objects, Mutable::Yes);
-  });
-}
-
-NSMutableArray NSMutableArray::array() {
-  return desktop::sendClass("NSMutableArray", "array", {}, [] {
-    return desktop::make<NSMutableArray, ArrayBody>(std::vector<Object>(), Mutable::Yes);
-  });
-}
-
-void NSMutableArray::addObject(const Object& object) {
-  send<ArrayBody>(*this, "addObject:", {object}, [&](ArrayBody& self) {
-    require(object);
-    self.objects.push_back(object);
-  });
-}
-
-void NSMutableArray::insertObject(const Object& object, std::size_t index) {
-  send<ArrayBody>(
-      *this, "insertObject:atIndex:", {object, static_cast<double>(index)}, [&](ArrayBody& self) {
-        require(object);
-        if (index > self.objects.size()) {
-          throw desktop::rangeException("index " + std::to_string(index) +
-                                        " beyond the end of the array");
-        }
-        self.objects.insert(self.objects.begin() + static_cast<std::ptrdiff_t>(index), object);
-      });
-}
-
-NSArray NSMutableArray::copy() const {
-  return send<ArrayBody>(*this, "copy", {}, [](ArrayBody& self) {
-    return desktop::make<NSArray, ArrayBody>(self.objects, Mutable::No);
   });
 }
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <optional>
 #include <string_view>
 
 #include "desktop/Foundation/ArrayBody.h"
@@ -88,9 +87,13 @@ plist::Value unbox(const platform::Object& object) {
   throw invalidArgument(debugDescription(object) + " cannot stand in a property list");
 }
 
-std::string textOf(const platform::Object& object) {
+std::optional<std::string_view> textIn(const platform::Object& object) {
   const auto* body = bodyAs<ValueBody>(object);
-  return body ? std::string(body->value.string().value_or("")) : std::string();
+  return body ? body->value.string() : std::nullopt;
+}
+
+std::string textOf(const platform::Object& object) {
+  return std::string(textIn(object).value_or(""));
 }
 
 std::string textAt(const plist::Dictionary& dictionary, std::string_view key,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,6 +16,9 @@ platform::Object box(const plist::Value& value);
 /// The value of such an object. Raises `NSInvalidArgumentException` for none and for objects that
 /// no property list holds.
 plist::Value unbox(const platform::Object& object);
+
+/// The text of a string, valid as long as the object lives; none for any other object.
+std::optional<std::string_view> textIn(const platform::Object& object);
 
 /// The text of a string; empty for any other object.
 std::string textOf(const platform::Object& object);
