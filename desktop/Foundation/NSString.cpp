@@ -8,6 +8,24 @@ namespace platform {
 
 using desktop::ValueBody;
 
+namespace {
+
+/// Without the slashes at the end, which do not make a path another one; "/" stays.
+std::string_view withoutTrailingSlashes(std::string_view path) {
+  while (path.size() > 1 && path.ends_with('/')) path.remove_suffix(1);
+  return path;
+}
+
+/// A dot that a file name begins with hides the file; it begins no extension.
+std::string_view withoutExtension(std::string_view path) {
+  path = withoutTrailingSlashes(path);
+  const std::size_t name = path.rfind('/') + 1;
+  const std::size_t dot = path.rfind('.');
+  return dot == std::string_view::npos || dot <= name ? path : path.substr(0, dot);
+}
+
+}  // namespace
+
 NSString::NSString(std::string_view utf8) {
   static_cast<Object&>(*this) = desktop::make<Object, ValueBody>(plist::Value::string(utf8));
 }
@@ -23,6 +41,22 @@ NSString NSString::stringWithFormat(const char* format, std::initializer_list<Ob
     rest.remove_prefix(placeholder + 2);
   }
   return NSString(text);
+}
+
+bool NSString::isKind(const Object& object) {
+  return desktop::send<desktop::Body>(object, "isKindOfClass:", {"NSString"},
+                                      [](desktop::Body& self) {
+                                        const auto* body = dynamic_cast<ValueBody*>(&self);
+                                        return body && body->value.string().has_value();
+                                      });
+}
+
+NSString NSString::stringByDeletingPathExtension() const {
+  return desktop::send<ValueBody>(*this, "stringByDeletingPathExtension", {}, [](ValueBody& self) {
+    const auto text = self.value.string();
+    if (!text) throw desktop::invalidArgument(self.debugDescription() + " is no string");
+    return NSString(withoutExtension(*text));
+  });
 }
 
 std::string NSString::UTF8String() const { return desktop::textOf(*this); }
