@@ -59,6 +59,12 @@ Object NSDictionary::objectForKey(const NSString& key) const {
   });
 }
 
+NSMutableDictionary NSMutableDictionary::init() {
+  return desktop::sendClass("NSMutableDictionary", "init", {}, [] {
+    return desktop::make<NSMutableDictionary, DictionaryBody>(plist::Dictionary(), Mutable::Yes);
+  });
+}
+
 NSMutableDictionary NSMutableDictionary::initWithContentsOfFile(const NSString& path) {
   return desktop::sendClass("NSMutableDictionary", "initWithContentsOfFile:", {path},
                             [&] { return load<NSMutableDictionary>(path, Mutable::Yes); });

@@ -52,6 +52,8 @@ std::string ValueBody::description() const {
   if (const auto large = value.unsignedInteger()) return std::to_string(*large);
   if (const auto real = value.real()) return Argument(*real).text();
   if (const auto date = value.date()) return "date " + Argument(*date).text();
+  if (const auto bytes = value.data())
+    return "<NSData of " + std::to_string(bytes->size()) + " bytes>";
   return Body::description();
 }
 
