@@ -177,13 +177,14 @@ void PhoneFolder::replace(std::string_view path, std::string_view bytes) const {
   check(fsync(folder.number()), path);
 }
 
-void PhoneFolder::remove(std::string_view path) const {
+bool PhoneFolder::remove(std::string_view path) const {
   const Descriptor folder = openParent(path);
   if (unlinkat(folder.number(), nameIn(path).c_str(), 0) < 0) {
-    if (errno == ENOENT) return;
+    if (errno == ENOENT) return false;
     fail(path);
   }
   check(fsync(folder.number()), path);
+  return true;
 }
 
 bool PhoneFolder::exists(std::string_view path) const {
@@ -198,6 +199,10 @@ bool PhoneFolder::areSame(std::string_view one, std::string_view other) const {
   check(fstat(open(one, O_PATH).number(), &left), one);
   check(fstat(open(other, O_PATH).number(), &right), other);
   return left.st_dev == right.st_dev && left.st_ino == right.st_ino;
+}
+
+Descriptor PhoneFolder::openFolder(std::string_view path) const {
+  return open(path, O_PATH | O_DIRECTORY);
 }
 
 std::vector<std::string> PhoneFolder::list(std::string_view path) const {
@@ -217,7 +222,9 @@ void PhoneFolder::makeFolders(std::string_view path) const {
   for (std::size_t end = path.find('/', 1);; end = path.find('/', end + 1)) {
     const std::string_view folder = path.substr(0, end);
     const Descriptor parent = openParent(folder);
-    if (mkdirat(parent.number(), nameIn(folder).c_str(), 0755) < 0 && errno != EEXIST) {
+    if (mkdirat(parent.number(), nameIn(folder).c_str(), 0755) == 0) {
+      check(fsync(parent.number()), folder);  // What is written into it is to last.
+    } else if (errno != EEXIST) {
       fail(folder);
     }
     if (end == std::string_view::npos) break;

@@ -31,14 +31,18 @@ class PhoneFolder {
   /// replaced file's mode is kept, and its owner where that is allowed; a new one's mode is 0644.
   void replace(std::string_view path, std::string_view bytes) const;
 
-  /// Deletes a file, durably; nothing happens when there is none.
-  void remove(std::string_view path) const;
+  /// Deletes a file or a link, durably; false when there is none. A folder throws.
+  bool remove(std::string_view path) const;
 
   /// Whether something stands there; false also when that cannot be found out.
   bool exists(std::string_view path) const;
 
   /// Whether both paths lead to the same file or folder.
   bool areSame(std::string_view one, std::string_view other) const;
+
+  /// The folder at the path, for what takes a descriptor instead (`/proc/self/fd`, proc(5));
+  /// nothing can be read or written through it.
+  Descriptor openFolder(std::string_view path) const;
 
   /// The names in a folder, in the folder's own order, without "." and "..".
   std::vector<std::string> list(std::string_view path) const;
