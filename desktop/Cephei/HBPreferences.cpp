@@ -23,6 +23,14 @@ HBPreferences HBPreferences::initWithIdentifier(const NSString& identifier) {
   });
 }
 
+Object HBPreferences::objectForKey(const NSString& key) const {
+  return desktop::send<PreferencesBody>(*this, "objectForKey:", {key}, [&](PreferencesBody& self) {
+    if (!key) return Object();
+    const auto value = desktop::Phone::current().preferences.value(self.domain, key.UTF8String());
+    return value ? desktop::box(*value) : Object();
+  });
+}
+
 void HBPreferences::setObject(const Object& object, const NSString& key) {
   desktop::send<PreferencesBody>(
       *this, "setObject:forKey:", {object, key}, [&](PreferencesBody& self) {
@@ -30,6 +38,12 @@ void HBPreferences::setObject(const Object& object, const NSString& key) {
             self.domain, key.UTF8String(),
             object ? std::optional(desktop::unbox(object)) : std::nullopt);
       });
+}
+
+void HBPreferences::removeAllObjects() {
+  desktop::send<PreferencesBody>(*this, "removeAllObjects", {}, [](PreferencesBody& self) {
+    desktop::Phone::current().preferences.clear(self.domain);
+  });
 }
 
 }  // namespace platform

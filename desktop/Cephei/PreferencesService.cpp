@@ -45,6 +45,7 @@ std::optional<PendingChanges> readPending(const Phone& phone, const std::string&
 /// A domain as it stands on disk.
 struct PreferencesService::Domain {
   PropertyListFile file;
+  bool isMissing = false;
   /// Why the file cannot be read; none when it can, or is missing.
   std::optional<std::string> unreadable;
   /// None when what is kept beside the file cannot be read.
@@ -55,7 +56,9 @@ PreferencesService::Domain PreferencesService::load(const std::string& domain) c
   Domain state;
   state.pending = readPending(phone_, pendingPathOf(domain));
   try {
-    if (auto file = readPropertyList(phone_.folder, pathOf(domain))) state.file = *std::move(file);
+    auto file = readPropertyList(phone_.folder, pathOf(domain));
+    state.isMissing = !file;
+    if (file) state.file = *std::move(file);
   } catch (const UnreadableFile& reason) {
     state.unreadable = reason.what();
   }
@@ -65,18 +68,21 @@ PreferencesService::Domain PreferencesService::load(const std::string& domain) c
 void PreferencesService::merge(const std::string& domain, Domain& state) const {
   if (state.unreadable || !state.pending || state.pending->empty()) return;
   state.pending->applyTo(state.file.dictionary);
-  writePropertyList(phone_.folder, pathOf(domain), state.file);
+  // A file that is gone has no keys left to remove.
+  if (!state.isMissing || !state.file.dictionary.empty()) {
+    writePropertyList(phone_.folder, pathOf(domain), state.file);
+  }
   phone_.folder.remove(pendingPathOf(domain));
   phone_.report(pathOf(domain) + " took the changes that were kept beside it");
 }
 
-void PreferencesService::keep(const std::string& domain, Domain& state, const std::string& key,
-                              const std::optional<plist::Value>& value) const {
+void PreferencesService::keep(const std::string& domain, Domain& state, const std::string& what,
+                              const std::function<void(PendingChanges&)>& change) const {
   const std::string file = pathOf(domain) + " cannot be read (" + *state.unreadable + ")";
   if (!state.pending) throw std::runtime_error(file);
-  state.pending->add(key, value);
+  change(*state.pending);
   writePropertyList(phone_.folder, pendingPathOf(domain), {state.pending->toDictionary()});
-  phone_.report(file + ": it is left as it is, and " + key + " is kept in " +
+  phone_.report(file + ": it is left as it is, and " + what + " is kept in " +
                 pendingPathOf(domain));
 }
 
@@ -93,7 +99,9 @@ void PreferencesService::set(const std::string& domain, const std::string& key,
                              const std::optional<plist::Value>& value) const {
   try {
     Domain state = load(domain);
-    if (state.unreadable) return keep(domain, state, key, value);
+    if (state.unreadable) {
+      return keep(domain, state, key, [&](PendingChanges& changes) { changes.add(key, value); });
+    }
     merge(domain, state);
     const plist::Value* present = state.file.dictionary.find(key);
     if (value ? present && isStoredAs(*present, *value, state.file.form) : !present) return;
@@ -105,6 +113,22 @@ void PreferencesService::set(const std::string& domain, const std::string& key,
     writePropertyList(phone_.folder, pathOf(domain), state.file);
   } catch (const std::exception& failure) {
     phone_.report(key + " was not stored in " + pathOf(domain) + ": " + failure.what());
+  }
+}
+
+void PreferencesService::clear(const std::string& domain) const {
+  try {
+    Domain state = load(domain);
+    if (state.unreadable) {
+      return keep(domain, state, "the removal of all keys",
+                  [](PendingChanges& changes) { changes.clear(); });
+    }
+    merge(domain, state);
+    if (state.file.dictionary.empty()) return;
+    state.file.dictionary = {};
+    writePropertyList(phone_.folder, pathOf(domain), state.file);
+  } catch (const std::exception& failure) {
+    phone_.report(pathOf(domain) + " was not cleared: " + failure.what());
   }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -9,6 +10,7 @@
 namespace desktop {
 
 class Phone;
+struct PendingChanges;
 
 /// The stand-in for the platform's preferences service. It keeps each domain in that domain's
 /// file and nothing anywhere else, so it sees at once what others write there.
@@ -31,6 +33,10 @@ class PreferencesService {
   void set(const std::string& domain, const std::string& key,
            const std::optional<plist::Value>& value) const;
 
+  /// Removes every key. The file stays, without keys; none is made when there is none yet. A
+  /// failure is reported to the desktop only.
+  void clear(const std::string& domain) const;
+
   /// Merges what is kept beside the domain's file, if it can be merged by now.
   void settle(const std::string& domain) const;
 
@@ -42,8 +48,9 @@ class PreferencesService {
 
   Domain load(const std::string& domain) const;
   void merge(const std::string& domain, Domain& state) const;
-  void keep(const std::string& domain, Domain& state, const std::string& key,
-            const std::optional<plist::Value>& value) const;
+  /// Keeps what `change` does to the changes beside the file; `what` names it to the desktop.
+  void keep(const std::string& domain, Domain& state, const std::string& what,
+            const std::function<void(PendingChanges&)>& change) const;
 
   Phone& phone_;
 };
