@@ -50,9 +50,8 @@ class Phone {
   /// The folder of the bundle that is open, whose resources its controllers load.
   std::string bundle;
 
-  /// Told the path of each mail that was sent, on the phone, once it lies there. Does nothing
-  /// unless replaced.
-  std::function<void(const std::string& path)> mailSent = [](const std::string&) {};
+  /// Told the phone's path of each mail that was sent, once it lies there; may be empty.
+  std::function<void(const std::string& path)> mailSent;
 
   /// Its file system.
   PhoneFolder folder;

@@ -1,0 +1,97 @@
+#include "desktop/MessageUI/MailBody.h"
+
+#include <array>
+#include <ctime>
+#include <system_error>
+
+#include "desktop/Foundation/ErrorBody.h"
+#include "desktop/MessageUI/Mailbox.h"
+#include "desktop/Phone.h"
+
+namespace desktop {
+
+using platform::MFMailComposeResult;
+
+namespace {
+
+constexpr const char* outbox = "/var/mobile/Library/Mail/Outbox/";
+constexpr const char* drafts = "/var/mobile/Library/Mail/Drafts/";
+
+unsigned nextNumber() {
+  static unsigned last = 0;
+  return ++last;
+}
+
+/// The time in UTC, in ISO 8601's basic form.
+std::string timestamp() {
+  const std::time_t now = std::time(nullptr);
+  std::tm parts{};
+  gmtime_r(&now, &parts);
+  std::array<char, 32> text;
+  return {text.data(), std::strftime(text.data(), text.size(), "%Y%m%dT%H%M%SZ", &parts)};
+}
+
+std::string freePathIn(const std::string& folder) {
+  const std::string start = folder + timestamp() + '-';
+  for (unsigned number = 1;; ++number) {
+    const std::string path = start + std::to_string(number) + ".eml";
+    if (!Phone::current().folder.exists(path)) return path;
+  }
+}
+
+/// Where it was put. Throws `std::system_error`.
+std::string put(const std::string& folder, const MimeMessage& message) {
+  const PhoneFolder& phone = Phone::current().folder;
+  phone.makeFolders(folder.substr(0, folder.size() - 1));
+  const std::string path = freePathIn(folder);
+  phone.replace(path, format(message));
+  return path;
+}
+
+}  // namespace
+
+MailBody::MailBody() : number(nextNumber()) {}
+
+void MailBody::change(std::string& text, std::string edited) {
+  isChanged_ = isChanged_ || text != edited;
+  text = std::move(edited);
+}
+
+bool MailBody::canSend() const { return mailboxesIn(message.recipients).has_value(); }
+
+void MailBody::send() {
+  if (canSend()) store(outbox, MFMailComposeResult::Sent);
+}
+
+void MailBody::saveDraft() { store(drafts, MFMailComposeResult::Saved); }
+
+void MailBody::cancel() { finish(MFMailComposeResult::Cancelled, {}); }
+
+void MailBody::store(const std::string& folder, MFMailComposeResult result) {
+  if (isFinished_) return;
+  Phone& phone = Phone::current();
+  std::string path;
+  try {
+    path = put(folder, message);
+  } catch (const std::system_error& failure) {
+    const std::string reason = failure.code().message();
+    phone.report("the mail was not put into " + folder + ": " + reason);
+    finish(MFMailComposeResult::Failed,
+           make<platform::NSError, ErrorBody>(failure.code().value(), reason));
+    return;
+  }
+  if (result == MFMailComposeResult::Sent && phone.mailSent) phone.mailSent(path);
+  finish(result, {});
+}
+
+void MailBody::finish(MFMailComposeResult result, const platform::NSError& error) {
+  if (isFinished_) return;
+  isFinished_ = true;
+  if (!delegate) return;
+  retain();  // The delegate may let go of the screen.
+  const auto self =
+      platform::Backend::adopt<platform::MFMailComposeViewController>(static_cast<Body*>(this));
+  delegate->didFinishWithResult(self, result, error);
+}
+
+}  // namespace desktop
