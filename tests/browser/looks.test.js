@@ -107,7 +107,7 @@ async function motion(page, act) {
 }
 
 const moving = { look: { reducedMotion: 'no-preference' } };
-const sliding = ['bar 350', 'content 350', 'leading 350', 'title 350'];
+const sliding = ['bar 350', 'content 350', 'leading 350', 'middle 350'];
 
 scenario('pages slide in and out', moving, async (screen) => {
   assert.deepEqual(await motion(screen.page, () => screen.push('Clock')), sliding);

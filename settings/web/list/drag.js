@@ -71,10 +71,8 @@ export class Drag {
     });
     const section = distances.indexOf(Math.min(...distances));
     const { top, height } = this.#lists[section].getBoundingClientRect();
-    const count = Math.round(height / this.#from.height);
-    const last = section === this.#from.section ? count - 1 : count;
-    const row = Math.floor((this.#y - top) / this.#from.height);
-    return { section, row: Math.min(last, Math.max(0, row)) };
+    const y = Math.min(height - 1, Math.max(0, this.#y - top));
+    return { section, row: Math.floor(y / this.#from.height) };
   }
 
   /** Only the row's own list makes way for it. */

@@ -24,7 +24,7 @@ export class Keyboard {
     const held = document.activeElement;
     const isHere = held !== this.#table && this.#table.contains(held);
     change();
-    if (isHere) this.#restore(held);
+    if (isHere) this.#restore();
   }
 
   #hear(event, move) {
@@ -32,40 +32,45 @@ export class Keyboard {
     const cell = event.target.closest('.grip')?.closest('.cell');
     if (!cell || !stride) return;
     event.preventDefault();
-    const row = this.#spot.row + stride;
-    if (row < 0 || row >= Number(cell.ariaSetSize)) return;
-    this.#spot.row = row;
-    this.#moving = cell.querySelector('.label').textContent;
-    move(cell.dataset.node, { section: this.#spot.section, row });
+    const { section, row: from } = this.#spot;
+    const row = from + stride;
+    if (this.#moving || row < 0 || row >= Number(cell.ariaSetSize)) return;
+    this.#moving = { label: labelOf(cell), row };
+    move(cell.dataset.node, { section, row });
   }
 
-  /** A row that moved within its section keeps the keyboard; for one that went, the next has it. */
-  #restore(held) {
-    const stays = this.#table.contains(held)
-      && spotOf(held).section === this.#spot.section;
-    const target = stays ? held : this.#buttonAt(this.#spot) ?? this.#table;
+  /** The keyboard stays at its position, whichever row is there now, unless it moved one. */
+  #restore() {
+    const moved = this.#takeMoved();
+    const target = moved?.querySelector('.grip') ?? this.#buttonAt(this.#spot) ?? this.#table;
     if (target !== document.activeElement) target.focus({ preventScroll: true });
     this.#spot = spotOf(target);
-    this.#tell(target.closest('.cell'));
+    if (!moved) return;
+    moved.scrollIntoView({ block: 'nearest' });
+    announce(`${labelOf(moved)}, ${moved.ariaPosInSet} of ${moved.ariaSetSize}`);
   }
 
-  #tell(cell) {
-    if (cell?.querySelector('.label').textContent === this.#moving) {
-      cell.scrollIntoView({ block: 'nearest' });
-      announce(`${this.#moving}, ${cell.ariaPosInSet} of ${cell.ariaSetSize}`);
-    }
+  /** The row that was moved, if it came to where it was to go. */
+  #takeMoved() {
+    const moving = this.#moving;
     this.#moving = null;
+    const cell = moving && this.#cellAt(this.#spot.section, moving.row);
+    return cell && labelOf(cell) === moving.label ? cell : null;
+  }
+
+  #cellAt(section, row) {
+    return this.#table.querySelector(`.cell[data-section="${section}"][data-row="${row}"]`);
   }
 
   #buttonAt({ section, row, part }) {
-    const at = (index) =>
-      this.#table.querySelector(`.cell[data-section="${section}"][data-row="${index}"]`);
-    const last = at(row - 1);
-    const cell = at(row) ?? (Number(last?.ariaSetSize) === row ? last : null);
+    const last = this.#cellAt(section, row - 1);
+    const cell = this.#cellAt(section, row) ?? (Number(last?.ariaSetSize) === row ? last : null);
     return cell?.querySelector(`.${part}:not([hidden])`)
       ?? cell?.querySelector('button:not([hidden])');
   }
 }
+
+const labelOf = (cell) => cell.querySelector('.label').textContent;
 
 /** Where an element stands: section, row and which of the row's buttons. */
 function spotOf(target) {

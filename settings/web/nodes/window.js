@@ -13,18 +13,18 @@ export function update(view, node, context) {
   cover(view, overlay);
 }
 
+/** While there is no page, what was there last stays below what hides it. */
 function show(view, node, context, isHidden) {
-  const before = view.ids;
-  view.ids = node.children;
-  const shown = before.at(-1);
-  const wanted = node.children.at(-1);
-  if (shown === wanted) return settle(view, context);
+  if (node.children.length === 0) return;
+  const isPush = node.children.length > view.ids.length;
+  const isSwap = isHidden || node.children.length === view.ids.length;
   const leaving = view.top;
-  const coming = (view.top = context.view(wanted));
+  const coming = (view.top = context.view(node.children.at(-1)));
+  view.ids = node.children;
+  if (leaving === coming) return settle(view, context);
   for (const animation of view.animations) animation.cancel();
-  const isSwap = isHidden || node.children.length === before.length;
   if (!leaving || isSwap) return settle(view, context);
-  move(view, context, leaving, coming, node.children.length > before.length);
+  move(view, context, leaving, coming, isPush);
 }
 
 function cover(view, overlay) {
@@ -60,7 +60,6 @@ function reveal(view, leaving, coming, isPush) {
 function settle(view, context) {
   for (const animation of view.animations) animation.cancel();
   view.animations = [];
-  view.top ??= context.view(view.ids.at(-1));
   context.place(view.element, view.ids);
   for (const page of view.element.children) {
     page.inert = page !== view.top.element;
