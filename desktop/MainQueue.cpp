@@ -6,6 +6,7 @@ namespace desktop {
 
 void MainQueue::after(Clock::duration delay, std::function<void()> work) {
   waiting_.emplace(now() + delay, std::move(work));
+  if (added) added();
 }
 
 std::optional<MainQueue::Clock::time_point> MainQueue::due() const {

@@ -26,6 +26,9 @@ class MainQueue {
   /// Forgets what waits.
   void clear() { waiting_.clear(); }
 
+  /// Told whenever something was added.
+  std::function<void()> added;
+
   /// What time it is; tests put a clock of their own here.
   std::function<Clock::time_point()> now = &Clock::now;
 

@@ -11,6 +11,7 @@
 
 #include "settings/Http.h"
 #include "settings/Tree.h"
+#include "settings/Viewport.h"
 
 namespace settings {
 
@@ -29,6 +30,9 @@ class Client : public std::enable_shared_from_this<Client> {
   /// As `show`, in answer to a touch: also when nothing has changed, so that the page stops
   /// showing what the finger did and shows the tree.
   void answer(const Tree& tree);
+
+  /// What the page has in view.
+  Viewport viewport;
 
   /// Tells the page that its last touch was refused, and why.
   void refuse(const std::string& reason);

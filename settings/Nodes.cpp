@@ -37,7 +37,9 @@ json node(const desktop::ColorCell& cell) {
 json node(const desktop::CreditsCell& cell) {
   json people = json::array();
   for (const auto& person : cell.people()) {
-    people.push_back({{"name", person.name}, {"detail", person.place}, {"url", person.url}});
+    json column = {{"name", person.name}, {"detail", person.place}, {"url", person.url}};
+    if (!person.picture.empty()) column["image"] = "/bundle/" + person.picture;
+    people.push_back(std::move(column));
   }
   return {{"kind", "credits"}, {"tint", cell.tint().web()}, {"people", std::move(people)}};
 }

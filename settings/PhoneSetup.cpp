@@ -19,6 +19,7 @@ constexpr const char* folders[] = {
     "/Library/PreferenceBundles/Quillmere.bundle",
     "/Library/PreferenceLoader/Preferences",
     "/Library/Lotties/Quillmere",
+    "/System/Library/CoreServices",
     "/var/mobile/Library/Preferences",
 };
 
@@ -69,7 +70,7 @@ void setUpPhone(const desktop::PhoneFolder& folder) {
     throw std::runtime_error("User in the phone folder has to be a link to var/mobile");
   }
   install(folder, bundleFiles());
-  if (isNew) install(folder, sampleAnimations());
+  if (isNew) install(folder, sampleFiles());
 }
 
 }  // namespace settings

@@ -16,7 +16,7 @@ void requireFolder(const std::filesystem::path& folder);
 
 /// Lays the folder out like a phone's file system and installs the bundle in it, as a package
 /// would: the bundle's own files are brought up to date, nothing else is changed. An empty folder
-/// also gets the sample animations. Throws `std::system_error`, or `std::runtime_error` when /User
+/// also gets the sample files. Throws `std::system_error`, or `std::runtime_error` when /User
 /// does not lead to /var/mobile.
 void setUpPhone(const desktop::PhoneFolder& folder);
 

@@ -1,14 +1,23 @@
 #include "settings/Screen.h"
 
+#include <span>
 #include <string>
 
 #include "desktop/UIKit/ControllerState.h"
+#include "desktop/UIKit/NavigationItemBody.h"
 #include "settings/Nodes.h"
+#include "settings/Overlay.h"
+#include "settings/Table.h"
+#include "settings/Views.h"
 
 namespace settings {
 
+using desktop::bodyAs;
+using desktop::NavigationController;
+using desktop::TableBody;
+using desktop::titleOf;
 using nlohmann::json;
-using Page = desktop::NavigationController::Page;
+using Page = NavigationController::Page;
 
 namespace {
 
@@ -21,7 +30,32 @@ std::string rowId(const Page& page, std::size_t section, std::size_t row) {
   return groupId(page, section) + ".row" + std::to_string(row);
 }
 
-const std::string& titleOf(const Page& page) { return desktop::stateOf(*page.controller).title; }
+const desktop::ControllerState& stateOf(const Page& page) {
+  return desktop::stateOf(*page.controller);
+}
+
+const desktop::NavigationItemBody& itemOf(const Page& page) {
+  return *bodyAs<desktop::NavigationItemBody>(stateOf(page).navigationItem);
+}
+
+/// The view in the bar's trailing place; none when there is none.
+platform::UIView trailingView(const Page& page) {
+  const auto* item = bodyAs<desktop::BarButtonItemBody>(itemOf(page).rightItem);
+  return item ? item->customView : platform::UIView();
+}
+
+/// The views that the controller has put into its own.
+const std::vector<platform::UIView>& viewsOn(const Page& page) {
+  return desktop::viewOf(stateOf(page).view)->subviews;
+}
+
+/// The table that fills the page; null when there is none.
+TableBody* tableOn(const Page& page) {
+  for (const platform::UIView& view : viewsOn(page)) {
+    if (auto* table = bodyAs<TableBody>(view)) return table;
+  }
+  return nullptr;
+}
 
 /// Adds the section's nodes to the tree; its id.
 std::string addSection(Tree& tree, const Page& page, std::size_t number) {
@@ -37,44 +71,67 @@ std::string addSection(Tree& tree, const Page& page, std::size_t number) {
   return id;
 }
 
-/// Adds the page on top with all that it shows.
-void addPage(Tree& tree, const Page& page, const Page* below) {
-  json node = {{"kind", "page"},
-               {"title", titleOf(page)},
-               {"back", nullptr},
-               {"style", styleNode(desktop::stateOf(*page.controller).appearance)},
-               {"children", json::array()}};
-  if (below) {
-    node["back"] = backId(page);
-    tree[backId(page)] = {{"kind", "back"}, {"label", titleOf(*below)}};
-  }
+/// Adds what the bar holds besides the title's text.
+void addBar(Tree& tree, json& node, const Page& page, const Page* below, Pictures& pictures) {
+  node["titleView"] = addView(tree, itemOf(page).titleView, pictures);
+  node["trailing"] = addBarSwitch(tree, trailingView(page), titleOf(*page.controller));
+  node["back"] = nullptr;
+  if (!below) return;
+  node["back"] = backId(page);
+  tree[backId(page)] = {{"kind", "back"}, {"label", titleOf(*below->controller)}};
+}
+
+/// Adds what stands below the bar: the header and the groups, or a table, and what covers them.
+void addContent(Tree& tree, json& node, const Page& page, const Viewport& viewport,
+                Pictures& pictures) {
+  const auto* list = bodyAs<TableBody>(stateOf(page).table);
+  node["header"] = list ? addView(tree, list->header, pictures) : json(nullptr);
+  node["scrolls"] = list && desktop::listensToScrolling(*page.controller);
+  node["children"] = json::array();
+  node["covers"] = json::array();
   for (std::size_t section = 0; section < page.sections.size(); ++section) {
     node["children"].push_back(addSection(tree, page, section));
   }
-  tree[pageId(page)] = std::move(node);
+  for (const platform::UIView& view : viewsOn(page)) {
+    if (auto* table = bodyAs<TableBody>(view)) {
+      node["children"].push_back(addTable(tree, *table, viewport));
+    } else {
+      node["covers"].push_back(addView(tree, view, pictures));
+    }
+  }
 }
 
 }  // namespace
 
-Tree Screen::tree() const {
+Tree Screen::tree(const Viewport& viewport, Pictures& pictures) const {
   Tree tree;
   json window = {{"kind", "window"}, {"children", json::array()}};
   const Page* below = nullptr;
-  for (const Page& page : navigation_.pages()) {
-    window["children"].push_back(pageId(page));
-    if (&page == &navigation_.pages().back()) {
-      addPage(tree, page, below);
-    } else {
-      tree[pageId(page)] = {{"kind", "page"}, {"title", titleOf(page)}};
+  NavigationController* navigation = board_.navigation();
+  for (const Page& page : navigation ? std::span(navigation->pages()) : std::span<const Page>()) {
+    json node = {{"kind", "page"}, {"title", titleOf(*page.controller)}};
+    if (&page == top()) {
+      node["style"] = styleNode(stateOf(page).appearance);
+      addBar(tree, node, page, below, pictures);
+      addContent(tree, node, page, viewport, pictures);
     }
+    tree[pageId(page)] = std::move(node);
+    window["children"].push_back(pageId(page));
     below = &page;
   }
+  window["overlay"] = addOverlay(tree, board_);
   tree["window"] = std::move(window);
   return tree;
 }
 
-desktop::AnyCell* Screen::cell(std::string_view id) {
-  Page& page = navigation_.top();
+const Page* Screen::top() const {
+  NavigationController* navigation = board_.navigation();
+  return navigation ? &navigation->top() : nullptr;
+}
+
+desktop::AnyCell* Screen::cell(std::string_view id) const {
+  if (!top()) return nullptr;
+  Page& page = board_.navigation()->top();
   for (std::size_t section = 0; section < page.sections.size(); ++section) {
     auto& cells = page.sections[section].cells;
     for (std::size_t row = 0; row < cells.size(); ++row) {
@@ -84,8 +141,20 @@ desktop::AnyCell* Screen::cell(std::string_view id) {
   return nullptr;
 }
 
+desktop::SwitchBody* Screen::barSwitch(std::string_view id) const {
+  auto* knob = top() ? bodyAs<desktop::SwitchBody>(trailingView(*top())) : nullptr;
+  return knob && viewId(*knob) == id ? knob : nullptr;
+}
+
+TableBody* Screen::scroller(std::string_view id) const {
+  const bool isTop = top() && pageId(*top()) == id;
+  return isTop ? bodyAs<TableBody>(stateOf(*top()).table) : nullptr;
+}
+
+TableBody* Screen::table() const { return top() ? tableOn(*top()) : nullptr; }
+
 bool Screen::isBackButton(std::string_view id) const {
-  return navigation_.pages().size() > 1 && backId(navigation_.pages().back()) == id;
+  return top() && board_.navigation()->pages().size() > 1 && backId(*top()) == id;
 }
 
 }  // namespace settings

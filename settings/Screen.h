@@ -3,27 +3,42 @@
 #include <string_view>
 
 #include "desktop/Preferences/Cells.h"
-#include "desktop/UIKit/NavigationController.h"
+#include "desktop/SpringBoard.h"
+#include "desktop/UIKit/SwitchBody.h"
+#include "desktop/UIKit/TableBody.h"
+#include "settings/Pictures.h"
 #include "settings/Tree.h"
+#include "settings/Viewport.h"
 
 namespace settings {
 
 /// The screen of the stand-in phone, as the browser draws it.
 class Screen {
  public:
-  explicit Screen(desktop::NavigationController& navigation) : navigation_(navigation) {}
+  explicit Screen(desktop::SpringBoard& board) : board_(board) {}
 
-  /// What is to be seen now.
-  Tree tree() const;
+  /// What is to be seen now by a browser with that in view; pictures that are new are noted.
+  Tree tree(const Viewport& viewport, Pictures& pictures) const;
 
-  /// The control that the tree calls `id`; null when it is not, or no longer, on the screen.
-  desktop::AnyCell* cell(std::string_view id);
+  /// @name What of the page on top the tree calls `id`. Null when it is not, or no longer, on the
+  /// screen.
+  /// @{
+  desktop::AnyCell* cell(std::string_view id) const;
+  desktop::SwitchBody* barSwitch(std::string_view id) const;
+  /// The page's table, by the page's id.
+  desktop::TableBody* scroller(std::string_view id) const;
+  /// @}
+
+  /// The table that fills the page on top; null when it has none.
+  desktop::TableBody* table() const;
 
   /// Whether `id` is the back button of the page on top.
   bool isBackButton(std::string_view id) const;
 
  private:
-  desktop::NavigationController& navigation_;
+  const desktop::NavigationController::Page* top() const;
+
+  desktop::SpringBoard& board_;
 };
 
 }  // namespace settings

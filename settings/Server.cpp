@@ -104,7 +104,7 @@ asio::awaitable<void> Server::serve(tcp::socket socket) {
         co_await converse(client, request);
         co_return;
       }
-      const Response response = answer(access_, request);
+      const Response response = answer(access_, request, application_.resource);
       co_await http::async_write(stream, response, use_awaitable);
       open = response.keep_alive();
     }
@@ -118,7 +118,7 @@ asio::awaitable<void> Server::serve(tcp::socket socket) {
 asio::awaitable<void> Server::converse(std::shared_ptr<Client> client, Request handshake) {
   try {
     clients_.insert(client);
-    client->show(application_.tree());
+    client->show(application_.tree(client->viewport));
     co_await client->run(std::move(handshake),
                          [&](std::string_view message) { touched(*client, message); });
   } catch (const boost::system::system_error&) {
@@ -131,13 +131,16 @@ asio::awaitable<void> Server::converse(std::shared_ptr<Client> client, Request h
 
 void Server::touched(Client& client, std::string_view message) {
   try {
-    application_.touch(message);
-    client.answer(application_.tree());
+    application_.touch(client.viewport, message);
+    client.answer(application_.tree(client.viewport));
   } catch (const RefusedTouch& refused) {
     client.refuse(refused.what());
   }
-  const Tree tree = application_.tree();
-  for (const auto& each : clients_) each->show(tree);
+  refresh();
+}
+
+void Server::refresh() {
+  for (const auto& each : clients_) each->show(application_.tree(each->viewport));
 }
 
 }  // namespace settings

@@ -5,12 +5,15 @@
 #include <boost/asio/ip/tcp.hpp>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string_view>
 
 #include "settings/Access.h"
 #include "settings/Http.h"
+#include "settings/Resource.h"
 #include "settings/Tree.h"
+#include "settings/Viewport.h"
 
 namespace settings {
 
@@ -21,16 +24,21 @@ class Server {
  public:
   /// What the server needs to know of the application.
   struct Application {
-    /// What the screen shows now.
-    std::function<Tree()> tree;
-    /// Carries out a touch. Throws `RefusedTouch`.
-    std::function<void(std::string_view message)> touch;
+    /// What the screen shows now to a page with that in view.
+    std::function<Tree(const Viewport&)> tree;
+    /// Carries out a touch of the page that has that in view. Throws `RefusedTouch`.
+    std::function<void(Viewport&, std::string_view message)> touch;
+    /// A file that the screen offers at that address; none when there is none.
+    std::function<std::optional<Resource>(std::string_view address)> resource;
   };
 
   /// Listens on the loopback address only; port 0 takes a free one. Throws `std::runtime_error`
   /// with a message for the user.
   Server(boost::asio::io_context& loop, std::uint16_t port, Application application);
   ~Server();
+
+  /// Brings every open page to what the screen shows now.
+  void refresh();
 
   /// The address to open in a browser.
   std::string address() const { return access_.address(); }

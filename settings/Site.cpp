@@ -64,6 +64,20 @@ Response file(const Asset& asset, const Request& request) {
   return finished(std::move(response), request);
 }
 
+/// Pictures and plain text are shown; anything else is saved, since it may be a page of its own.
+Response resource(const Resource& offered, const Request& request) {
+  Response response = bare(request, http::status::ok);
+  const bool isText = offered.type == "text/plain";
+  response.set(http::field::content_type,
+               isText ? "text/plain; charset=utf-8" : offered.type.c_str());
+  if (!isText && offered.type != "image/png") {
+    response.set(http::field::content_type, "application/octet-stream");
+    response.set(http::field::content_disposition, "attachment");
+  }
+  response.body() = offered.bytes;
+  return finished(std::move(response), request);
+}
+
 Response plainAnswer(const Request& request, http::status status, std::string_view text) {
   Response response = bare(request, status);
   response.set(http::field::content_type, "text/plain; charset=utf-8");
@@ -73,7 +87,7 @@ Response plainAnswer(const Request& request, http::status status, std::string_vi
 
 }  // namespace
 
-Response answer(const Access& access, const Request& request) {
+Response answer(const Access& access, const Request& request, const Resources& resources) {
   if (const auto refusal = access.refusal(request)) {
     return plainAnswer(request, http::status::forbidden, *refusal);
   }
@@ -87,10 +101,9 @@ Response answer(const Access& access, const Request& request) {
   const std::string_view target(request.target().data(), request.target().size());
   const auto assets = webAssets();
   const auto found = std::ranges::find(assets, target, &Asset::path);
-  if (found == assets.end()) {
-    return plainAnswer(request, http::status::not_found, "There is no such file here.");
-  }
-  return file(*found, request);
+  if (found != assets.end()) return file(*found, request);
+  if (const auto offered = resources(target)) return resource(*offered, request);
+  return plainAnswer(request, http::status::not_found, "There is no such file here.");
 }
 
 }  // namespace settings

@@ -3,7 +3,8 @@
 #include <stdexcept>
 #include <string_view>
 
-#include "desktop/UIKit/NavigationController.h"
+#include "desktop/SpringBoard.h"
+#include "settings/Viewport.h"
 
 namespace settings {
 
@@ -13,8 +14,8 @@ class RefusedTouch : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// Carries out a touch, a JSON message from the page (docs/protocol.md lists them). Throws
-/// `RefusedTouch`.
-void touch(desktop::NavigationController& navigation, std::string_view message);
+/// Carries out a touch, a JSON message from a page (docs/protocol.md lists them). `viewport` is
+/// that page's own. Throws `RefusedTouch`.
+void touch(desktop::SpringBoard& board, Viewport& viewport, std::string_view message);
 
 }  // namespace settings

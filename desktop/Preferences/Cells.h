@@ -103,6 +103,8 @@ class CreditsCell : public Cell {
     std::string place;
     /// The person's page there.
     std::string url;
+    /// The file in the bundle that shows the person; empty for none.
+    std::string picture;
   };
 
   explicit CreditsCell(platform::PSSpecifier specifier) : Cell(std::move(specifier)) {}

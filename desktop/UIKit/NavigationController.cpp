@@ -46,6 +46,7 @@ void NavigationController::present(const platform::Object& screen) {
                                    debugDescription(presented_) + " is in its place");
   }
   presented_ = screen;
+  presentation_ = ++lastNumber;
 }
 
 }  // namespace desktop

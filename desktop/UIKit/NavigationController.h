@@ -35,6 +35,9 @@ class NavigationController {
   /// none when nothing does.
   const platform::Object& presented() const { return presented_; }
 
+  /// Never used twice, so that what belonged to a screen that is gone cannot be mistaken.
+  unsigned presentation() const { return presentation_; }
+
   /// Shows such a screen. As on a phone, one over another is refused, and that reported.
   void present(const platform::Object& screen);
   void dismiss() { presented_ = {}; }
@@ -42,6 +45,7 @@ class NavigationController {
  private:
   std::vector<Page> pages_;
   platform::Object presented_;
+  unsigned presentation_ = 0;
 };
 
 /// What the bundle holds of a stack.

@@ -64,8 +64,8 @@ TEST_F(PhoneSetupTest, LaysANewFolderOut) {
 
 TEST_F(PhoneSetupTest, GivesANewFolderTheSamples) {
   setUp();
-  ASSERT_FALSE(settings::sampleAnimations().empty());
-  for (const settings::Asset& sample : settings::sampleAnimations()) {
+  ASSERT_FALSE(settings::sampleFiles().empty());
+  for (const settings::Asset& sample : settings::sampleFiles()) {
     EXPECT_EQ(bytesOf(host(sample.path)), sample.bytes) << sample.path;
     EXPECT_TRUE(sample.bytes.starts_with("PK")) << sample.path;
   }
@@ -80,7 +80,7 @@ TEST_F(PhoneSetupTest, ChangesNothingTheSecondTime) {
 
 TEST_F(PhoneSetupTest, DoesNotBringBackSamplesThatTheUserDeleted) {
   setUp();
-  const fs::path sample = host(settings::sampleAnimations()[0].path);
+  const fs::path sample = host(settings::sampleFiles()[0].path);
   fs::remove(sample);
   setUp();
   EXPECT_FALSE(fs::exists(sample));
