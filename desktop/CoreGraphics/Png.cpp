@@ -24,9 +24,13 @@ std::uint32_t numberAt(std::string_view bytes, std::size_t place) {
 
 /// Asked before anything is decoded: a small file may announce, and unpack to, any size.
 bool isBearable(std::string_view bytes) {
-  if (!bytes.starts_with(opening)) return false;
-  const double width = numberAt(bytes, opening.size());
-  const double height = numberAt(bytes, opening.size() + sizeof(std::uint32_t));
+  constexpr std::size_t widthPlace = opening.size();
+  constexpr std::size_t heightPlace = widthPlace + sizeof(std::uint32_t);
+  if (!bytes.starts_with(opening) || bytes.size() < heightPlace + sizeof(std::uint32_t)) {
+    return false;
+  }
+  const double width = numberAt(bytes, widthPlace);
+  const double height = numberAt(bytes, heightPlace);
   return width * height <= maximumPixels;
 }
 
