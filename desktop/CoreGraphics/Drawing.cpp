@@ -17,6 +17,17 @@ constexpr double farthest = 1 << 22;
 /// The fraction of a pixel below which Cairo sees none.
 constexpr double finest = 1.0 / 256;
 
+/// Cairo keeps in 16 bits how many pixels are filtered into one; more are an error that would spoil
+/// the context for good.
+constexpr double mostIntoOne = 32767;
+
+bool canStretch(cairo_t& context, cairo_surface_t& pixels, const platform::CGRect& rect) {
+  auto [width, height] = rect.size;
+  cairo_user_to_device_distance(&context, &width, &height);
+  return canDraw(context, rect) && cairo_image_surface_get_width(&pixels) <= mostIntoOne * width &&
+         cairo_image_surface_get_height(&pixels) <= mostIntoOne * height;
+}
+
 /// Makes `rect` the clip, and a pattern that fills it with a surface. The last pixels go on past
 /// the surface's edge, so that filtering does not mix transparency into the outermost ones.
 Pattern stretch(cairo_t& context, cairo_surface_t& pixels, const platform::CGRect& rect) {
@@ -107,7 +118,7 @@ void traceRounded(cairo_t& context, const platform::CGRect& rect, double radius)
 }
 
 void drawStretched(cairo_t& context, cairo_surface_t& pixels, const platform::CGRect& rect) {
-  if (!canDraw(context, rect)) return;
+  if (!canStretch(context, pixels, rect)) return;
   const SavedState state(context);
   const Pattern pattern = stretch(context, pixels, rect);
   cairo_set_source(&context, pattern.get());
@@ -116,7 +127,7 @@ void drawStretched(cairo_t& context, cairo_surface_t& pixels, const platform::CG
 
 void drawShape(cairo_t& context, cairo_surface_t& pixels, const platform::CGRect& rect,
                const ColorBody& color) {
-  if (!canDraw(context, rect)) return;
+  if (!canStretch(context, pixels, rect)) return;
   const SavedState state(context);
   const Pattern pattern = stretch(context, pixels, rect);
   setColor(context, color);
