@@ -1,6 +1,7 @@
 #include "platform/Foundation/NSNumber.h"
 
 #include "desktop/Foundation/ValueBody.h"
+#include "desktop/Foundation/Values.h"
 
 namespace platform {
 
@@ -13,5 +14,7 @@ NSNumber NSNumber::numberWithBool(bool value) {
 NSNumber NSNumber::numberWithInt(int value) {
   return desktop::make<NSNumber, ValueBody>(plist::Value::integer(value));
 }
+
+bool NSNumber::boolValue() const { return desktop::boolValue(*this); }
 
 }  // namespace platform

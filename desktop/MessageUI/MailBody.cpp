@@ -67,6 +67,14 @@ void MailBody::saveDraft() { store(drafts, MFMailComposeResult::Saved); }
 
 void MailBody::cancel() { finish(MFMailComposeResult::Cancelled, {}); }
 
+void MailBody::askToCancel() {
+  if (isChanged_) {
+    isAsking_ = true;
+  } else {
+    cancel();
+  }
+}
+
 void MailBody::store(const std::string& folder, MFMailComposeResult result) {
   if (isFinished_) return;
   Phone& phone = Phone::current();

@@ -32,10 +32,17 @@ class MailBody : public Body {
   void saveDraft();
   /// Keeps nothing.
   void cancel();
+  /// As `cancel`, but asks first what is to become of what the user wrote.
+  void askToCancel();
+  /// Does not cancel after all.
+  void keepWriting() { isAsking_ = false; }
   /// @}
 
   /// Whether the user edited anything, and may want to keep it.
   bool isChanged() const { return isChanged_; }
+
+  /// Whether the user is being asked what is to become of the mail.
+  bool isAsking() const { return isAsking_; }
 
   /// Never used twice, so that who draws the screen can name the mail.
   const unsigned number;
@@ -52,6 +59,7 @@ class MailBody : public Body {
   void finish(platform::MFMailComposeResult result, const platform::NSError& error);
 
   bool isChanged_ = false;
+  bool isAsking_ = false;
   bool isFinished_ = false;
 };
 
