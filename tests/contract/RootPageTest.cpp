@@ -89,20 +89,6 @@ TEST(RootPage, BindsEveryActionAndPage) {
               IsSupersetOf({"\"QMColorVC\"", "\"QMClockVC\"", "\"QMQuickActionsVC\""}));
 }
 
-TEST(RootPage, RowWhoseActionIsNotBuiltYetIsReportedAndDoesNothing) {
-  const std::pair<const char*, const char*> rows[] = {
-      {"Lotties", "lottiesList"},
-      {"Respring", "respring"},
-      {"Reset All Settings", "resetPreferences"},
-      {"Write to Support", "presentSupportMailController:"}};
-  for (const auto& [label, action] : rows) {
-    Driver phone;
-    phone.tap(label);
-    EXPECT_THAT(phone.titles(), ElementsAre("Quillmere"));
-    EXPECT_THAT(phone.reports(), ElementsAre(testing::HasSubstr(action)));
-  }
-}
-
 TEST(RootPage, OpensAPageFromEachLink) {
   for (const char* label : {"Clock", "Quick Actions", "Color"}) {
     Driver phone;

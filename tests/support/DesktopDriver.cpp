@@ -1,21 +1,10 @@
 #include <fstream>
-#include <functional>
 #include <gtest/gtest.h>
-#include <sstream>
-#include <stdexcept>
 
 #include "desktop/Foundation/ArrayBody.h"
-#include "desktop/Foundation/Values.h"
-#include "desktop/Message.h"
 #include "desktop/Overloaded.h"
-#include "desktop/Phone.h"
-#include "desktop/Preferences/ListResource.h"
-#include "desktop/Preferences/SpecifierBody.h"
-#include "desktop/SettingsApplication.h"
-#include "desktop/UIKit/ControllerState.h"
-#include "settings/PhoneSetup.h"
+#include "tests/support/DesktopState.h"
 #include "tests/support/Driver.h"
-#include "tests/support/TemporaryFolder.h"
 
 namespace support {
 
@@ -58,50 +47,6 @@ std::string shownBy(const desktop::AnyCell& any) {
 
 }  // namespace
 
-struct Driver::State {
-  State() : phone(folder.path) {
-    phone.report = [this](const std::string& line) { reports.push_back(line); };
-    phone.notifications.observe([this](const std::string& name) { posted.push_back(name); });
-    phone.journal.start();
-    settings::setUpPhone(phone.folder);
-    application = std::make_unique<desktop::SettingsApplication>("Quillmere");
-  }
-
-  desktop::NavigationController::Page& top() { return application->navigation.top(); }
-  platform::PSListController& page() {
-    return dynamic_cast<platform::PSListController&>(*top().controller);
-  }
-
-  /// The first cell of this type for which `matches` holds.
-  template <class Cell>
-  Cell& cell(const std::string& what, const std::function<bool(const Cell&)>& matches) {
-    for (desktop::Section& section : top().sections) {
-      for (desktop::AnyCell& any : section.cells) {
-        auto* cell = std::get_if<Cell>(&any);
-        if (cell && matches(*cell)) return *cell;
-      }
-    }
-    throw std::runtime_error("nothing to touch: " + what);
-  }
-  template <class Cell>
-  Cell& keyed(const std::string& key) {
-    return cell<Cell>(key, [&](const Cell& candidate) { return candidate.key() == key; });
-  }
-
-  platform::PSSpecifier loose(const LooseRow& row) {
-    auto specifier = desktop::make<platform::PSSpecifier, desktop::SpecifierBody>();
-    auto& body = *bodyAs<desktop::SpecifierBody>(specifier);
-    body.target = &page();
-    for (const auto& [key, value] : row.properties) body.setProperty(desktop::box(value), key);
-    return specifier;
-  }
-  TemporaryFolder folder;
-  std::vector<std::string> reports;
-  std::vector<std::string> posted;
-  desktop::Phone phone;
-  std::unique_ptr<desktop::SettingsApplication> application;
-};
-
 Driver::Driver() : state_(std::make_unique<State>()) { forget(); }
 Driver::~Driver() = default;
 
@@ -112,7 +57,7 @@ void Driver::tap(const std::string& label) {
       .tap();
 }
 
-void Driver::back() { state_->application->navigation.pop(); }
+void Driver::back() { state_->navigation().pop(); }
 
 void Driver::toggle(const std::string& key, bool on) {
   state_->keyed<desktop::SwitchCell>(key).toggle(on);
@@ -143,8 +88,8 @@ std::string Driver::shown(const std::string& key) const {
 
 std::vector<std::string> Driver::titles() const {
   std::vector<std::string> titles;
-  for (const auto& page : state_->application->navigation.pages()) {
-    titles.push_back(desktop::stateOf(*page.controller).title);
+  for (const auto& page : state_->navigation().pages()) {
+    titles.push_back(desktop::titleOf(*page.controller));
   }
   return titles;
 }
@@ -208,9 +153,7 @@ void Driver::putListResource(int rows) {
                                plist::writeBinary(plist::Value(resource)));
 }
 
-void Driver::reopen() {
-  state_->application = std::make_unique<desktop::SettingsApplication>("Quillmere");
-}
+void Driver::reopen() { state_->open(); }
 
 void Driver::withoutClass(const std::string& name) { state_->phone.missingClasses.insert(name); }
 
@@ -218,6 +161,34 @@ bool Driver::initSucceeds(const std::string& className, bool superclassRefuses) 
   const auto controller = desktop::makeController(className);
   desktop::stateOf(*controller).refusesInit = superclassRefuses;
   return controller->init();
+}
+
+bool Driver::answers(const std::string& selector) const {
+  return desktop::answers(*state_->top().controller, selector);
+}
+
+void Driver::call(const std::string& selector) {
+  desktop::perform(*state_->top().controller, selector, {});
+}
+
+void Driver::setDevice(const Device& device) {
+  state_->phone.identity = {device.type, device.version, device.build};
+}
+
+void Driver::putAnimations(const std::vector<std::string>& names) {
+  removeAnimationFolder();
+  std::filesystem::create_directories(state_->animationFolder());
+  for (const std::string& name : names) std::ofstream(state_->animationFolder() / name) << "zip";
+}
+
+std::vector<std::string> Driver::animationFiles() const {
+  return state_->phone.folder.list("/Library/Lotties/Quillmere");
+}
+
+void Driver::removeAnimationFolder() { std::filesystem::remove_all(state_->animationFolder()); }
+
+void Driver::removeBundleFile(const std::string& name) {
+  state_->phone.folder.remove(state_->phone.bundle + "/" + name);
 }
 
 std::vector<std::string> Driver::journal() const { return state_->phone.journal.lines(); }

@@ -24,6 +24,52 @@ struct RowFacts {
   bool operator==(const RowFacts&) const = default;
 };
 
+/// A row of the animation list as it is shown.
+struct ListSection {
+  std::string title;
+  std::vector<std::string> rows;
+  bool operator==(const ListSection&) const = default;
+};
+
+/// An alert as it is shown: its answers with their styles, as in "Cancel (1)".
+struct AlertFacts {
+  std::string title;
+  std::string message;
+  std::vector<std::string> actions;
+  bool operator==(const AlertFacts&) const = default;
+};
+
+/// The welcome screen as it is shown.
+struct WelcomeFacts {
+  std::string title;
+  std::string subtitle;
+  std::vector<std::pair<std::string, std::string>> items;
+  std::string button;
+  std::string caption;
+  std::string tint;  ///< "#rrggbbaa".
+};
+
+/// The mail composer as it is shown.
+struct MailFacts {
+  std::string to;
+  std::string subject;
+  std::string body;
+  bool isHTML;
+  struct Attachment {
+    std::string name;
+    std::string type;
+    std::string bytes;
+  };
+  std::vector<Attachment> attachments;
+};
+
+/// What a phone says of itself.
+struct Device {
+  std::optional<std::string> type;
+  std::optional<std::string> version;
+  std::optional<std::string> build;
+};
+
 /// A phone with the bundle installed and its first page open. Scenarios speak to the bundle
 /// through it alone, so that they run over every implementation of the platform.
 class Driver {
@@ -40,10 +86,43 @@ class Driver {
   void select(const std::string& key, std::size_t index);
   /// "#rrggbbaa".
   void pick(const std::string& key, const std::string& color);
+  /// The master switch in the bar; a finger that is lifted outside of it is no tap.
+  void flip(bool on, bool inside = true);
+  /// Moves the content of the page on top to `y` points.
+  void scroll(double y);
+  /// Answers the alert.
+  void answer(const std::string& action);
+  /// The animation list: the insert control of a disabled animation, the delete control of an
+  /// enabled one with its confirmation, and a drag from a row to another.
+  void insert(std::size_t row);
+  void remove(std::size_t row);
+  void drag(std::size_t section, std::size_t row, std::size_t toSection, std::size_t toRow);
+  /// Leaves the welcome screen.
+  void leaveWelcome();
+  enum class MailEnd { Send, Save, Cancel };
+  void endMail(MailEnd end);
   /// @}
+
+  /// Lets time pass, and with it what was put off until later.
+  void pass(double seconds);
 
   /// What the row of that key shows: "on", "75", "Default", "#f69240ff".
   std::string shown(const std::string& key) const;
+
+  bool switchIsOn() const;
+  /// How much is to be seen of the title's text and of the icon in its place, from 0 to 1.
+  std::pair<double, double> titleAlphas() const;
+  /// The title's text.
+  std::string titleText() const;
+  std::optional<AlertFacts> alert() const;
+  std::optional<WelcomeFacts> welcome() const;
+  std::optional<MailFacts> mail() const;
+  /// The sections of the animation list with the rows that they show.
+  std::vector<ListSection> list();
+  /// How much is to be seen of the blur over the page; none while there is none.
+  std::optional<double> blur() const;
+  /// Whether the screen is being restarted: no page is to be seen then.
+  bool isRestarting() const;
 
   /// The titles of the pages on the stack, the first one first.
   std::vector<std::string> titles() const;
@@ -60,6 +139,21 @@ class Driver {
   };
   std::optional<plist::Value> read(const LooseRow& row);
   void write(const LooseRow& row, const plist::Value& value);
+
+  /// Whether the page on top has a method of that name, and calling it.
+  bool answers(const std::string& selector) const;
+  void call(const std::string& selector);
+
+  /// What the phone is; iOS 12.5 unless set, so that no welcome screen is in the way.
+  void setDevice(const Device& device);
+
+  /// Makes the folder of animations hold just these entries.
+  void putAnimations(const std::vector<std::string>& names);
+  /// The names in that folder, in the order in which the system lists them.
+  std::vector<std::string> animationFiles() const;
+  void removeAnimationFolder();
+  /// Deletes one of the bundle's files, such as "Header.png".
+  void removeBundleFile(const std::string& name);
 
   /// @name The preferences file (of the add-on's domain unless another is named).
   /// @{
