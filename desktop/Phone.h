@@ -13,8 +13,8 @@
 #include "desktop/MainQueue.h"
 #include "desktop/PhoneFolder.h"
 #include "desktop/SpringBoard.h"
-#include "platform/CoreGraphics/CGGeometry.h"
 #include "platform/CoreGraphics/CGContext.h"
+#include "platform/CoreGraphics/CGGeometry.h"
 
 namespace desktop {
 

@@ -57,10 +57,9 @@ void QMLottiesList::buildCatalogue() {
 }
 
 void QMLottiesList::save() {
-  NSMutableDictionary settings =
-      NSFileManager::defaultManager().fileExistsAtPath(preferencesFile)
-          ? NSMutableDictionary::initWithContentsOfFile(preferencesFile)
-          : NSMutableDictionary::init();
+  NSMutableDictionary settings = NSFileManager::defaultManager().fileExistsAtPath(preferencesFile)
+                                     ? NSMutableDictionary::initWithContentsOfFile(preferencesFile)
+                                     : NSMutableDictionary::init();
   settings.setObject(enabledViews, enabledLottiesKey);
   settings.writeToFile(preferencesFile, Atomically::Yes);
   HBPreferences::initWithIdentifier(domain).setObject(enabledViews, enabledLottiesKey);

@@ -84,8 +84,7 @@ UITableViewCellEditingStyle QMLottiesList::editingStyleForRowAtIndexPath(
   }
 }
 
-bool QMLottiesList::shouldIndentWhileEditingRowAtIndexPath(const UITableView&,
-                                                           const NSIndexPath&) {
+bool QMLottiesList::shouldIndentWhileEditingRowAtIndexPath(const UITableView&, const NSIndexPath&) {
   return false;
 }
 

@@ -35,23 +35,22 @@ PSSpecifier creditsRow(QMRoot& page) {
 }
 
 constexpr std::array rootMethods = joined(
-    pageMethods,
-    std::array{
-        method<&QMRoot::lottiesList>("lottiesList"),
-        method<&QMRoot::toggleState>("toggleState"),
-        method<&QMRoot::setEnableSwitchState>("setEnableSwitchState"),
-        method<&QMRoot::respring>("respring"),
-        method<&QMRoot::respringAfterEnable>("respringAfterEnable"),
-        method<&QMRoot::resetPreferences>("resetPreferences"),
-        method<&QMRoot::presentSupportMailController>("presentSupportMailController:"),
-        method<&QMRoot::scrollViewDidScroll>("scrollViewDidScroll:"),
-        getter<&QMRoot::titleLabel>("titleLabel"),
-        setter<&QMRoot::titleLabel>("setTitleLabel:"),
-        getter<&QMRoot::iconView>("iconView"),
-        setter<&QMRoot::iconView>("setIconView:"),
-        getter<&QMRoot::enableSwitch>("enableSwitch"),
-        setter<&QMRoot::enableSwitch>("setEnableSwitch:"),
-    });
+    pageMethods, std::array{
+                     method<&QMRoot::lottiesList>("lottiesList"),
+                     method<&QMRoot::toggleState>("toggleState"),
+                     method<&QMRoot::setEnableSwitchState>("setEnableSwitchState"),
+                     method<&QMRoot::respring>("respring"),
+                     method<&QMRoot::respringAfterEnable>("respringAfterEnable"),
+                     method<&QMRoot::resetPreferences>("resetPreferences"),
+                     method<&QMRoot::presentSupportMailController>("presentSupportMailController:"),
+                     method<&QMRoot::scrollViewDidScroll>("scrollViewDidScroll:"),
+                     getter<&QMRoot::titleLabel>("titleLabel"),
+                     setter<&QMRoot::titleLabel>("setTitleLabel:"),
+                     getter<&QMRoot::iconView>("iconView"),
+                     setter<&QMRoot::iconView>("setIconView:"),
+                     getter<&QMRoot::enableSwitch>("enableSwitch"),
+                     setter<&QMRoot::enableSwitch>("setEnableSwitch:"),
+                 });
 
 }  // namespace
 

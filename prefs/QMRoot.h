@@ -50,9 +50,9 @@ class QMRoot : public QMPage, public platform::MFMailComposeViewControllerDelega
 
   std::span<const platform::Method> methods() const override;
 
-  platform::UILabel titleLabel;      ///< The title view's text.
-  platform::UIImageView iconView;    ///< The title view's picture, invisible at first.
-  platform::UISwitch enableSwitch;   ///< The add-on's master switch.
+  platform::UILabel titleLabel;     ///< The title view's text.
+  platform::UIImageView iconView;   ///< The title view's picture, invisible at first.
+  platform::UISwitch enableSwitch;  ///< The add-on's master switch.
 
  protected:
   platform::NSMutableArray buildRows() override;

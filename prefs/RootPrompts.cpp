@@ -32,8 +32,8 @@ void blurAndRespring(UIView view) {
   blur.setAlpha(0.0);
   view.addSubview(blur);
   UIView::animateWithDuration(
-      blurDuration, 0.0, UIViewAnimationOptions::CurveEaseOut,
-      [&blur] { blur.setAlpha(1.0); }, [](bool) { respringNow(); });
+      blurDuration, 0.0, UIViewAnimationOptions::CurveEaseOut, [&blur] { blur.setAlpha(1.0); },
+      [](bool) { respringNow(); });
 }
 
 void reset() {

@@ -18,8 +18,8 @@ std::span<const Asset> webAssets();
 /// The bundle's files, by their path on the phone.
 std::span<const Asset> bundleFiles();
 
-/// What a new phone folder starts with, by its path on the phone: what the phone says of itself, and
-/// some animations.
+/// What a new phone folder starts with, by its path on the phone: what the phone says of itself,
+/// and some animations.
 std::span<const Asset> sampleFiles();
 
 }  // namespace settings

@@ -21,9 +21,7 @@ void complain(const std::string& command, const std::string& reason) {
   std::cerr << "quillmere-settings: the command \"" << command << "\" " << reason << std::endl;
 }
 
-std::system_error failure(const char* what) {
-  return {errno, std::generic_category(), what};
-}
+std::system_error failure(const char* what) { return {errno, std::generic_category(), what}; }
 
 /// A file without a name that holds `text`, to be read from its beginning.
 Descriptor fileWith(std::string_view text) {

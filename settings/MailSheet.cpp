@@ -87,8 +87,8 @@ bool tapMail(MailBody& mail, const std::string& id, std::string_view target) {
 
 bool typeIntoMail(MailBody& mail, const std::string& id, std::string_view target,
                   const std::string& text) {
-  const auto* field = std::ranges::find_if(
-      fields, [&](const Field& each) { return target == fieldId(id, each); });
+  const auto* field =
+      std::ranges::find_if(fields, [&](const Field& each) { return target == fieldId(id, each); });
   if (field == std::end(fields)) return false;
   (mail.*field->edit)(text);
   return true;

@@ -58,15 +58,15 @@ json welcomeNode(const WelcomeBody& welcome, const std::string& id) {
   for (const WelcomeBody::Item& item : welcome.items) {
     items.push_back({{"title", textOf(item.title)}, {"description", textOf(item.description)}});
   }
-  return {{"kind", "welcome"},
-          {"title", textOf(welcome.title)},
-          {"subtitle", textOf(welcome.subtitle)},
-          {"items", std::move(items)},
-          {"button",
-           {{"id", id + std::string(continuing)}, {"title", textOf(welcome.buttonTitle)}}},
-          {"dismiss", id + std::string(dismissing)},
-          {"caption", textOf(welcome.buttonCaption)},
-          {"tint", desktop::webColor(welcome.tint)}};
+  return {
+      {"kind", "welcome"},
+      {"title", textOf(welcome.title)},
+      {"subtitle", textOf(welcome.subtitle)},
+      {"items", std::move(items)},
+      {"button", {{"id", id + std::string(continuing)}, {"title", textOf(welcome.buttonTitle)}}},
+      {"dismiss", id + std::string(dismissing)},
+      {"caption", textOf(welcome.buttonCaption)},
+      {"tint", desktop::webColor(welcome.tint)}};
 }
 
 json restartNode(desktop::SpringBoard::Phase phase) {
@@ -77,10 +77,7 @@ json restartNode(desktop::SpringBoard::Phase phase) {
 bool tapAlert(NavigationController& navigation, const AlertBody& alert, std::string_view id) {
   for (std::size_t i = 0; i < alert.actions.size(); ++i) {
     if (actionId(overlayId(navigation), i) != id) continue;
-    // The alert goes first, and its answer may bring up another.
-    const platform::UIAlertAction chosen = alert.actions[i];
-    navigation.dismiss();
-    if (const auto& handler = desktop::bodyAs<AlertActionBody>(chosen)->handler) handler();
+    answerAlert(navigation, alert.actions[i]);
     return true;
   }
   return false;
@@ -116,9 +113,17 @@ json addOverlay(Tree& tree, desktop::SpringBoard& board) {
   return id;
 }
 
+void answerAlert(NavigationController& navigation, const platform::UIAlertAction& action) {
+  // The alert goes first, and its answer may bring up another.
+  const platform::UIAlertAction chosen = action;
+  navigation.dismiss();
+  if (const auto& handler = desktop::bodyAs<AlertActionBody>(chosen)->handler) handler();
+}
+
 bool tapOverlay(NavigationController& navigation, std::string_view id) {
   const platform::Object shown = navigation.presented();
-  if (const auto* alert = desktop::bodyAs<AlertBody>(shown)) return tapAlert(navigation, *alert, id);
+  if (const auto* alert = desktop::bodyAs<AlertBody>(shown))
+    return tapAlert(navigation, *alert, id);
   if (const auto* welcome = desktop::bodyAs<WelcomeBody>(shown)) {
     return tapWelcome(navigation, *welcome, id);
   }

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "desktop/SpringBoard.h"
+#include "platform/UIKit/UIAlertController.h"
 #include "settings/Resource.h"
 #include "settings/Tree.h"
 
@@ -13,6 +14,9 @@ namespace settings {
 /// Adds the nodes of what lies over all pages, or of the restart that is under way; its id, null
 /// when there is nothing.
 nlohmann::json addOverlay(Tree& tree, desktop::SpringBoard& board);
+
+/// Answers the alert that lies over all pages with one of its actions.
+void answerAlert(desktop::NavigationController& navigation, const platform::UIAlertAction& action);
 
 /// Taps the button that the tree calls `id`; false when there is no such button.
 bool tapOverlay(desktop::NavigationController& navigation, std::string_view id);

@@ -141,8 +141,12 @@ desktop::AnyCell* Screen::cell(std::string_view id) const {
   return nullptr;
 }
 
+desktop::SwitchBody* Screen::barSwitch() const {
+  return top() ? bodyAs<desktop::SwitchBody>(trailingView(*top())) : nullptr;
+}
+
 desktop::SwitchBody* Screen::barSwitch(std::string_view id) const {
-  auto* knob = top() ? bodyAs<desktop::SwitchBody>(trailingView(*top())) : nullptr;
+  auto* knob = barSwitch();
   return knob && viewId(*knob) == id ? knob : nullptr;
 }
 

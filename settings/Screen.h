@@ -32,6 +32,9 @@ class Screen {
   /// The table that fills the page on top; null when it has none.
   desktop::TableBody* table() const;
 
+  /// The switch in the bar of the page on top; null when it has none.
+  desktop::SwitchBody* barSwitch() const;
+
   /// Whether `id` is the back button of the page on top.
   bool isBackButton(std::string_view id) const;
 

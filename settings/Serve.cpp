@@ -1,13 +1,13 @@
 #include "settings/Serve.h"
 
 #include <boost/asio/signal_set.hpp>
-#include <boost/asio/steady_timer.hpp>
 #include <csignal>
 #include <iostream>
 
 #include "settings/Browser.h"
 #include "settings/Overlay.h"
 #include "settings/Pictures.h"
+#include "settings/QueueTimer.h"
 #include "settings/Screen.h"
 #include "settings/Server.h"
 #include "settings/Session.h"
@@ -16,31 +16,6 @@
 namespace settings {
 
 namespace {
-
-/// Lets the phone's main queue run on the event loop.
-class QueueTimer {
- public:
-  QueueTimer(boost::asio::io_context& loop, desktop::MainQueue& queue, std::function<void()> ran)
-      : timer_(loop), queue_(queue), ran_(std::move(ran)) {}
-
-  /// Waits for what is due next. To be called whenever something may have been added.
-  void arm() {
-    const auto due = queue_.due();
-    if (!due) return;
-    timer_.expires_at(*due);
-    timer_.async_wait([this](boost::system::error_code error) {
-      if (error) return;
-      queue_.run();
-      ran_();
-      arm();
-    });
-  }
-
- private:
-  boost::asio::steady_timer timer_;
-  desktop::MainQueue& queue_;
-  std::function<void()> ran_;
-};
 
 /// The picture file of the bundle at an address such as "/bundle/Face.png"; none for anything else.
 std::optional<Resource> bundlePicture(const desktop::Phone& phone, std::string_view address) {
@@ -73,14 +48,12 @@ void serve(const Options& options) {
     }
     return bundlePicture(session.phone, address);
   };
-  Server server(loop, options.port,
-                {[&](const Viewport& viewport) { return screen.tree(viewport, pictures); },
-                 [&](Viewport& viewport, std::string_view message) {
-                   touch(board, viewport, message);
-                 },
-                 resource});
-  QueueTimer timer(loop, session.phone.mainQueue, [&] { server.refresh(); });
-  session.phone.mainQueue.added = [&] { timer.arm(); };
+  Server server(
+      loop, options.port,
+      {[&](const Viewport& viewport) { return screen.tree(viewport, pictures); },
+       [&](Viewport& viewport, std::string_view message) { touch(board, viewport, message); },
+       resource});
+  const QueueTimer timer(loop, session.phone.mainQueue, [&] { server.refresh(); });
 
   boost::asio::signal_set signals(loop, SIGINT, SIGTERM);
   signals.async_wait([&](auto, auto) { loop.stop(); });

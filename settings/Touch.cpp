@@ -68,7 +68,8 @@ Cell& cellIn(const Hands& hands, const json& message) {
   return *fitting;
 }
 
-/// Taps a row, which takes back a confirmation that is awaited, or a button of it; false when `id` is none.
+/// Taps a row, which takes back a confirmation that is awaited, or a button of it; false when `id`
+/// is none.
 bool tapTable(desktop::TableBody* table, const std::string& id) {
   const auto target = table ? tableTarget(*table, id) : std::nullopt;
   if (!target) return false;
@@ -169,9 +170,8 @@ struct Kind {
 };
 
 constexpr Kind kinds[] = {
-    {"tap", &tap},       {"toggle", &toggle}, {"slide", &slide},
-    {"type", &type},     {"select", &select}, {"pick", &pick},
-    {"scroll", &scroll}, {"window", &window}, {"drag", &drag},
+    {"tap", &tap},   {"toggle", &toggle}, {"slide", &slide},   {"type", &type}, {"select", &select},
+    {"pick", &pick}, {"scroll", &scroll}, {"window", &window}, {"drag", &drag},
 };
 
 }  // namespace

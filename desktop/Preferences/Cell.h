@@ -27,6 +27,9 @@ class Cell {
   /// False for a row that its list resource disables.
   bool enabled() const;
 
+  /// The row that it draws.
+  const platform::PSSpecifier& specifier() const { return specifier_; }
+
  protected:
   const SpecifierBody& row() const;
 
@@ -36,8 +39,6 @@ class Cell {
 
   platform::Object performGetter() const;
   void performSetterWithValue(const platform::Object& value) const;
-
-  const platform::PSSpecifier& specifier() const { return specifier_; }
 
  private:
   platform::PSSpecifier specifier_;

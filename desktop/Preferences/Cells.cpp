@@ -65,28 +65,37 @@ std::optional<double> SliderCell::step() const {
 
 bool SliderCell::showsValue() const { return flag("showValue"); }
 
+double SliderCell::nearestStop(double value) const {
+  value = std::clamp(value, min_, max_);
+  const auto stop = step();
+  return stop ? min_ + std::round((value - min_) / *stop) * *stop : value;
+}
+
 bool SliderCell::slide(double value) {
   if (std::isnan(value)) return false;
-  value = std::clamp(value, min_, max_);
-  if (const auto stop = step()) value = min_ + std::round((value - min_) / *stop) * *stop;
   // The platform's sliders hand over a single-width number, also at whole stops.
-  const auto number = static_cast<float>(value);
-  value_ = static_cast<double>(number);
-  performSetterWithValue(box(plist::Value::real(number)));
+  const auto stop = static_cast<float>(nearestStop(value));
+  value_ = static_cast<double>(stop);
+  performSetterWithValue(box(plist::Value::real(stop)));
   return true;
 }
 
-bool SliderCell::type(std::string_view text) {
+std::optional<double> SliderCell::number(std::string_view text) {
   const auto isSpace = [](char letter) { return letter == ' ' || letter == '\t'; };
   while (!text.empty() && isSpace(text.front())) text.remove_prefix(1);
   while (!text.empty() && isSpace(text.back())) text.remove_suffix(1);
   if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
   // Names of numbers, "inf" and the like, are numbers to from_chars only.
-  if (text.find_first_not_of("-.0123456789") != std::string_view::npos) return false;
+  if (text.find_first_not_of("-.0123456789") != std::string_view::npos) return std::nullopt;
   double value = 0;
   const char* const end = text.data() + text.size();
   const auto [stop, error] = std::from_chars(text.data(), end, value, std::chars_format::fixed);
-  return error == std::errc() && stop == end && slide(value);
+  return error == std::errc() && stop == end ? std::optional(value) : std::nullopt;
+}
+
+bool SliderCell::type(std::string_view text) {
+  const auto value = number(text);
+  return value && slide(*value);
 }
 
 SegmentCell::SegmentCell(platform::PSSpecifier specifier) : Cell(std::move(specifier)) {

@@ -38,10 +38,16 @@ class SliderCell : public Cell {
   std::optional<double> step() const;
   bool showsValue() const;
 
-  /// Moves to the stop nearest to `value`, within the slider's range. False for NaN.
+  /// The stop nearest to `value`, within the slider's range; any number of it without stops.
+  double nearestStop(double value) const;
+
+  /// Moves to the stop nearest to `value`. False for NaN.
   bool slide(double value);
 
-  /// As `slide`, with a decimal number that somebody typed. False when it is no number.
+  /// The decimal number that somebody typed; none when it is no number.
+  static std::optional<double> number(std::string_view text);
+
+  /// As `slide`, with what somebody typed. False when it is no number.
   bool type(std::string_view text);
 
  private:

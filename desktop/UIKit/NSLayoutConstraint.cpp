@@ -33,11 +33,10 @@ void activate(const ConstraintBody& constraint) {
 }  // namespace
 
 NSLayoutConstraint NSLayoutAnchor::constraintEqualToAnchor(const NSLayoutAnchor& anchor) const {
-  return desktop::send<AnchorBody>(
-      *this, "constraintEqualToAnchor:", {anchor}, [&](AnchorBody&) {
-        return anchor ? desktop::make<NSLayoutConstraint, ConstraintBody>(*this, anchor)
-                      : NSLayoutConstraint();
-      });
+  return desktop::send<AnchorBody>(*this, "constraintEqualToAnchor:", {anchor}, [&](AnchorBody&) {
+    return anchor ? desktop::make<NSLayoutConstraint, ConstraintBody>(*this, anchor)
+                  : NSLayoutConstraint();
+  });
 }
 
 void NSLayoutConstraint::activateConstraints(

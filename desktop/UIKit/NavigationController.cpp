@@ -59,12 +59,12 @@ using desktop::send;
 void UINavigationController::pushViewController(std::shared_ptr<UIViewController> controller,
                                                 Animated animated) {
   const std::string name = controller ? desktop::stateOf(*controller).className : "nil";
-  send<NavigationBody>(*this, "pushViewController:animated:",
-                       {std::string_view(name), animated == Animated::Yes},
-                       [&](NavigationBody& self) {
-                         if (!controller) throw desktop::invalidArgument("the controller is nil");
-                         self.stack.push(std::move(controller));
-                       });
+  send<NavigationBody>(
+      *this, "pushViewController:animated:", {std::string_view(name), animated == Animated::Yes},
+      [&](NavigationBody& self) {
+        if (!controller) throw desktop::invalidArgument("the controller is nil");
+        self.stack.push(std::move(controller));
+      });
 }
 
 void UINavigationController::presentViewController(const Object& controller, Animated animated) {

@@ -33,13 +33,13 @@ CGPoint UIScrollView::contentOffset() const {
 }
 
 UITableView UITableView::initWithFrame(const CGRect& frame, UITableViewStyle style) {
-  return desktop::sendClass(
-      "UITableView", "initWithFrame:style:",
-      {std::string_view(desktop::text(frame)), static_cast<double>(style)}, [&] {
-        auto table = desktop::make<UITableView, TableBody>();
-        desktop::viewOf(table)->frame = frame;
-        return table;
-      });
+  return desktop::sendClass("UITableView", "initWithFrame:style:",
+                            {std::string_view(desktop::text(frame)), static_cast<double>(style)},
+                            [&] {
+                              auto table = desktop::make<UITableView, TableBody>();
+                              desktop::viewOf(table)->frame = frame;
+                              return table;
+                            });
 }
 
 void UITableView::setDelegate(UITableViewDelegate& delegate) {
@@ -91,10 +91,9 @@ UITableViewCell UITableView::dequeueReusableCellWithIdentifier(const NSString& i
 UITableViewCell UITableViewCell::initWithStyle(UITableViewCellStyle style,
                                                const NSString& reuseIdentifier) {
   return desktop::sendClass(
-      "UITableViewCell", "initWithStyle:reuseIdentifier:",
-      {static_cast<double>(style), reuseIdentifier}, [&] {
-        return desktop::make<UITableViewCell, TableCellBody>(reuseIdentifier.UTF8String());
-      });
+      "UITableViewCell",
+      "initWithStyle:reuseIdentifier:", {static_cast<double>(style), reuseIdentifier},
+      [&] { return desktop::make<UITableViewCell, TableCellBody>(reuseIdentifier.UTF8String()); });
 }
 
 UILabel UITableViewCell::textLabel() const {

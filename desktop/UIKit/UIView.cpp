@@ -47,8 +47,9 @@ void UIView::setFrame(const CGRect& frame) {
 }
 
 CGRect UIView::bounds() const {
-  return send<ViewBody>(*this, "bounds", {},
-                        [](ViewBody& self) { return CGRect{{}, self.frame.size}; });
+  return send<ViewBody>(*this, "bounds", {}, [](ViewBody& self) {
+    return CGRect{{}, self.frame.size};
+  });
 }
 
 CALayer UIView::layer() const {
@@ -112,16 +113,15 @@ void UIView::animateWithDuration(double duration, const std::function<void()>& a
 void UIView::animateWithDuration(double duration, double delay, UIViewAnimationOptions options,
                                  const std::function<void()>& animations,
                                  std::function<void(bool finished)> completion) {
-  desktop::sendClass(
-      "UIView", "animateWithDuration:delay:options:animations:completion:",
-      {duration, delay, static_cast<double>(options)}, [&] {
-        collect(duration, animations);
-        if (!completion) return;
-        desktop::Phone::current().mainQueue.after(
-            std::chrono::duration_cast<std::chrono::nanoseconds>(
-                std::chrono::duration<double>(duration + delay)),
-            [completion = std::move(completion)] { completion(true); });
-      });
+  desktop::sendClass("UIView", "animateWithDuration:delay:options:animations:completion:",
+                     {duration, delay, static_cast<double>(options)}, [&] {
+                       collect(duration, animations);
+                       if (!completion) return;
+                       desktop::Phone::current().mainQueue.after(
+                           std::chrono::duration_cast<std::chrono::nanoseconds>(
+                               std::chrono::duration<double>(duration + delay)),
+                           [completion = std::move(completion)] { completion(true); });
+                     });
 }
 
 }  // namespace platform

@@ -82,8 +82,8 @@ void UIViewController::presentViewController(const Object& controller, Animated 
 
 void UIViewController::dismissViewController(Animated animated) {
   const desktop::ControllerState& state = stateOf(*this);
-  sendClass(state.className, "dismissViewControllerAnimated:completion:",
-            {animated == Animated::Yes, "nil"}, [&] {
+  sendClass(state.className,
+            "dismissViewControllerAnimated:completion:", {animated == Animated::Yes, "nil"}, [&] {
               if (state.navigation) state.navigation->dismiss();
             });
 }

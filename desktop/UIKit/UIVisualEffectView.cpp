@@ -6,9 +6,8 @@
 namespace platform {
 
 UIBlurEffect UIBlurEffect::effectWithStyle(UIBlurEffectStyle style) {
-  return desktop::sendClass("UIBlurEffect", "effectWithStyle:", {static_cast<double>(style)}, [] {
-    return desktop::make<UIBlurEffect, desktop::BlurEffectBody>();
-  });
+  return desktop::sendClass("UIBlurEffect", "effectWithStyle:", {static_cast<double>(style)},
+                            [] { return desktop::make<UIBlurEffect, desktop::BlurEffectBody>(); });
 }
 
 UIVisualEffectView UIVisualEffectView::initWithEffect(const UIBlurEffect& effect) {

@@ -12,8 +12,7 @@ enum class UITableViewCellStyle : long { Default = 0 };
 class UITableViewCell : public UIView {
  public:
   /// A new cell, which tables reuse for rows that ask for the same identifier.
-  static UITableViewCell initWithStyle(UITableViewCellStyle style,
-                                       const NSString& reuseIdentifier);
+  static UITableViewCell initWithStyle(UITableViewCellStyle style, const NSString& reuseIdentifier);
 
   UILabel textLabel() const;
 };

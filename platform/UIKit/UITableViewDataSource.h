@@ -20,8 +20,7 @@ class UITableViewDataSource {
  public:
   virtual std::size_t numberOfSectionsInTableView(const UITableView& tableView) = 0;
   virtual NSString titleForHeaderInSection(const UITableView& tableView, std::size_t section) = 0;
-  virtual std::size_t numberOfRowsInSection(const UITableView& tableView,
-                                            std::size_t section) = 0;
+  virtual std::size_t numberOfRowsInSection(const UITableView& tableView, std::size_t section) = 0;
   virtual UITableViewCell cellForRowAtIndexPath(UITableView tableView,
                                                 const NSIndexPath& indexPath) = 0;
   virtual bool canEditRowAtIndexPath(const UITableView& tableView,

@@ -1,5 +1,6 @@
 import assert from 'node:assert/strict';
 import { eventually } from './fixture/eventually.js';
+import { swipe } from './fixture/finger.js';
 import { sliders } from './fixture/rows.js';
 import { scenario } from './fixture/scenario.js';
 
@@ -111,16 +112,6 @@ scenario('a tap on the track brings the knob there', {}, async (screen) => {
   await expectShown(slider, 60);
   assert.deepEqual(await screen.stored(), { clockVerticalAlignment: '60.0' });
 });
-
-/** Moves one finger over a touch screen, from a point by each of the ways in turn. */
-async function swipe({ context, page }, { x, y }, ways) {
-  const session = await context.newCDPSession(page);
-  const send = (type, touchPoints) =>
-    session.send('Input.dispatchTouchEvent', { type, touchPoints });
-  await send('touchStart', [{ x, y }]);
-  for (const [dx, dy] of ways) await send('touchMove', [{ x: x + dx, y: y + dy }]);
-  await send('touchEnd', []);
-}
 
 const small = { look: { hasTouch: true, viewport: { width: 390, height: 500 } } };
 

@@ -54,15 +54,15 @@ function eachFrame(act) {
   }));
 }
 
-/** Follows what comes into view. A page that something lies over tells nothing. */
+/** Follows what comes into view. A page that is gone, or that something lies over, tells nothing. */
 function watch(view, context) {
   const { element: page, content } = view;
-  const isCovered = () => page.closest('[inert]') !== null;
+  const isLive = () => page.isConnected && !page.closest('[inert]');
   const look = eachFrame(() => {
-    if (!isCovered()) for (const id of view.children) context.view(id).look?.();
+    if (isLive()) for (const id of view.children) context.view(id).look?.();
   });
   const tell = eachFrame(() => {
-    if (view.scrolls && !isCovered()) context.touch({ kind: 'scroll', y: content.scrollTop });
+    if (view.scrolls && isLive()) context.touch({ kind: 'scroll', y: content.scrollTop });
   });
   new ResizeObserver(look).observe(content);
   content.addEventListener('scroll', () => {

@@ -15,6 +15,8 @@ export function create(node, context) {
     node, there: { first: 0, end: 0 }, asked: '', context,
   };
   view.look = () => look(view);
+  table.addEventListener('click', ({ target }) => target.closest('button') || takeBack(view));
+  table.addEventListener('keydown', ({ key }) => key === 'Escape' && takeBack(view));
   return view;
 }
 
@@ -54,6 +56,12 @@ function place(view, list, section, context) {
   const ids = view.node.children.filter((id) => context.node(id).section === section);
   context.place(list, ids, inHand);
   for (const cell of list.children) cell.ariaSetSize = String(view.node.sections[section].count);
+}
+
+/** Does not delete after all. */
+function takeBack({ element: table, context }) {
+  const asking = table.querySelector('.confirm:not([hidden])')?.closest('.cell');
+  if (asking) context.touch({ kind: 'tap' }, asking.dataset.node);
 }
 
 /** Notes which rows are there now, and whether others are in view already. */
