@@ -1,5 +1,6 @@
 #include "settings/Screen.h"
 
+#include <algorithm>
 #include <span>
 #include <string>
 
@@ -55,6 +56,13 @@ TableBody* tableOn(const Page& page) {
     if (auto* table = bodyAs<TableBody>(view)) return table;
   }
   return nullptr;
+}
+
+/// Whether the controller has put a view over what the page shows: it takes all touches but those
+/// of the bar.
+bool isCovered(const Page& page) {
+  return std::ranges::any_of(viewsOn(page),
+                             [](const auto& view) { return !bodyAs<TableBody>(view); });
 }
 
 /// Adds the section's nodes to the tree; its id.
@@ -130,7 +138,7 @@ const Page* Screen::top() const {
 }
 
 desktop::AnyCell* Screen::cell(std::string_view id) const {
-  if (!top()) return nullptr;
+  if (!top() || isCovered(*top())) return nullptr;
   Page& page = board_.navigation()->top();
   for (std::size_t section = 0; section < page.sections.size(); ++section) {
     auto& cells = page.sections[section].cells;
@@ -155,7 +163,9 @@ TableBody* Screen::scroller(std::string_view id) const {
   return isTop ? bodyAs<TableBody>(stateOf(*top()).table) : nullptr;
 }
 
-TableBody* Screen::table() const { return top() ? tableOn(*top()) : nullptr; }
+TableBody* Screen::table() const {
+  return top() && !isCovered(*top()) ? tableOn(*top()) : nullptr;
+}
 
 bool Screen::isBackButton(std::string_view id) const {
   return top() && board_.navigation()->pages().size() > 1 && backId(*top()) == id;
