@@ -13,8 +13,8 @@ class RefusingPage : public TestPage {
 };
 
 template <class Page>
-std::unique_ptr<platform::UIViewController> makePage() {
-  return std::make_unique<Page>();
+std::shared_ptr<platform::UIViewController> makePage() {
+  return std::make_shared<Page>();
 }
 
 std::string keyOf(const platform::PSSpecifier& row) {
