@@ -167,8 +167,8 @@ bool Driver::answers(const std::string& selector) const {
   return desktop::answers(*state_->top().controller, selector);
 }
 
-void Driver::call(const std::string& selector) {
-  desktop::perform(*state_->top().controller, selector, {});
+std::string Driver::call(const std::string& selector) {
+  return debugDescription(desktop::perform(*state_->top().controller, selector, {}));
 }
 
 void Driver::setDevice(const Device& device) {
@@ -178,7 +178,11 @@ void Driver::setDevice(const Device& device) {
 void Driver::putAnimations(const std::vector<std::string>& names) {
   removeAnimationFolder();
   std::filesystem::create_directories(state_->animationFolder());
-  for (const std::string& name : names) std::ofstream(state_->animationFolder() / name) << "zip";
+  for (const std::string& name : names) {
+    const std::filesystem::path path = state_->animationFolder() / name;
+    std::filesystem::create_directories(path.parent_path());
+    if (path.has_filename()) std::ofstream(path) << "zip";
+  }
 }
 
 std::vector<std::string> Driver::animationFiles() const {
@@ -186,6 +190,11 @@ std::vector<std::string> Driver::animationFiles() const {
 }
 
 void Driver::removeAnimationFolder() { std::filesystem::remove_all(state_->animationFolder()); }
+
+void Driver::obstructAnimationFolder() {
+  removeAnimationFolder();
+  std::ofstream(state_->animationFolder()) << "no folder";
+}
 
 void Driver::removeBundleFile(const std::string& name) {
   state_->phone.folder.remove(state_->phone.bundle + "/" + name);

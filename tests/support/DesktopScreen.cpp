@@ -113,32 +113,8 @@ void Driver::endMail(MailEnd end) {
 }
 
 std::optional<double> Driver::blur() const {
-  const auto* blur = state_->viewOnPage<desktop::VisualEffectBody>();
-  return blur ? std::optional(blur->alpha) : std::nullopt;
-}
-
-std::vector<ListSection> Driver::list() {
-  desktop::TableBody& table = state_->table();
-  std::vector<ListSection> sections;
-  for (std::size_t section = 0; section < table.sections().size(); ++section) {
-    ListSection& shown = sections.emplace_back(table.sections()[section].title);
-    for (std::size_t row = 0; row < table.sections()[section].rows; ++row) {
-      const auto& cell = *bodyAs<desktop::TableCellBody>(table.cell({section, row}));
-      shown.rows.push_back(textOf(bodyAs<desktop::LabelBody>(cell.textLabel)->text));
-    }
-  }
-  return sections;
-}
-
-void Driver::insert(std::size_t row) { state_->table().tapControl({1, row}); }
-
-void Driver::remove(std::size_t row) {
-  state_->table().tapControl({0, row});
-  state_->table().confirm();
-}
-
-void Driver::drag(std::size_t section, std::size_t row, std::size_t toSection, std::size_t toRow) {
-  state_->table().drag({section, row}, {toSection, toRow});
+  const platform::UIView blur = state_->viewOnPage<desktop::VisualEffectBody>();
+  return blur ? std::optional(desktop::viewOf(blur)->alpha) : std::nullopt;
 }
 
 void Driver::pass(double seconds) {

@@ -48,18 +48,20 @@ struct Driver::State {
     if (!knob) throw std::runtime_error("there is no switch in the bar");
     return *knob;
   }
-  /// The views in the page's own, that are of this kind.
+  /// The first of the views on the page that is of this kind; none when there is none.
   template <class View>
-  View* viewOnPage() {
+  platform::UIView viewOnPage() {
     for (const platform::UIView& view : desktop::viewOf(controller().view)->subviews) {
-      if (auto* found = desktop::bodyAs<View>(view)) return found;
+      if (desktop::bodyAs<View>(view)) return view;
     }
-    return nullptr;
+    return {};
   }
-  desktop::TableBody& table() {
-    if (auto* table = viewOnPage<desktop::TableBody>()) return *table;
+  platform::UITableView tableHandle() {
+    if (const auto table = viewOnPage<desktop::TableBody>())
+      return table.as<platform::UITableView>();
     throw std::runtime_error("there is no table on the page");
   }
+  desktop::TableBody& table() { return *desktop::bodyAs<desktop::TableBody>(tableHandle()); }
   platform::PSListController& page() {
     return dynamic_cast<platform::PSListController&>(*top().controller);
   }

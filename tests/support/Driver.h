@@ -31,6 +31,32 @@ struct ListSection {
   bool operator==(const ListSection&) const = default;
 };
 
+/// A cell of the animation list as it is drawn.
+struct CellFacts {
+  std::string text;
+  std::string color;  ///< "#rrggbbaa".
+  bool operator==(const CellFacts&) const = default;
+};
+
+/// A row of the animation list, or of a section that it does not have.
+struct ListPosition {
+  std::size_t section;
+  std::size_t row;
+  bool operator==(const ListPosition&) const = default;
+};
+
+/// What the animation list answers to its table's questions about a row and its section.
+struct ListAnswers {
+  std::size_t sections;
+  std::string title;
+  std::size_t rows;
+  bool canEdit;
+  bool canMove;
+  long editingStyle;
+  bool indents;
+  bool operator==(const ListAnswers&) const = default;
+};
+
 /// An alert as it is shown: its answers with their styles, as in "Cancel (1)".
 struct AlertFacts {
   std::string title;
@@ -119,6 +145,15 @@ class Driver {
   std::optional<MailFacts> mail() const;
   /// The sections of the animation list with the rows that they show.
   std::vector<ListSection> list();
+  /// What one of those rows shows; only its cell is asked for.
+  CellFacts cell(ListPosition row);
+  /// @name The table's callbacks, which take any row and any editing style.
+  /// @{
+  ListAnswers answersFor(ListPosition row);
+  ListPosition dropTarget(ListPosition source, ListPosition proposed);
+  void commit(long editingStyle, ListPosition row);
+  void move(ListPosition source, ListPosition destination);
+  /// @}
   /// How much is to be seen of the blur over the page; none while there is none.
   std::optional<double> blur() const;
   /// Whether the screen is being restarted: no page is to be seen then.
@@ -140,18 +175,21 @@ class Driver {
   std::optional<plist::Value> read(const LooseRow& row);
   void write(const LooseRow& row, const plist::Value& value);
 
-  /// Whether the page on top has a method of that name, and calling it.
+  /// Whether the page on top has a method of that name, and what calling it answers, as the journal
+  /// writes it.
   bool answers(const std::string& selector) const;
-  void call(const std::string& selector);
+  std::string call(const std::string& selector);
 
   /// What the phone is; iOS 12.5 unless set, so that no welcome screen is in the way.
   void setDevice(const Device& device);
 
-  /// Makes the folder of animations hold just these entries.
+  /// Makes the folder of animations hold just these entries; one that ends in a slash is a folder.
   void putAnimations(const std::vector<std::string>& names);
   /// The names in that folder, in the order in which the system lists them.
   std::vector<std::string> animationFiles() const;
   void removeAnimationFolder();
+  /// Puts a file where that folder belongs.
+  void obstructAnimationFolder();
   /// Deletes one of the bundle's files, such as "Header.png".
   void removeBundleFile(const std::string& name);
 
