@@ -139,7 +139,7 @@ std::optional<plist::Value> Driver::serviceValue(const std::string& key) const {
   return state_->phone.preferences.value(ownDomain, key);
 }
 
-void Driver::putListResource(int rows) {
+void Driver::putListResource(int rows, const std::string& title) {
   plist::Array items;
   for (int row = 0; row < rows; ++row) {
     plist::Dictionary item;
@@ -148,6 +148,7 @@ void Driver::putListResource(int rows) {
     items.append(plist::Value(item));
   }
   plist::Dictionary resource;
+  if (!title.empty()) resource.set("title", plist::Value::string(title));
   resource.set("items", plist::Value(items));
   state_->phone.folder.replace(state_->phone.bundle + "/Root.plist",
                                plist::writeBinary(plist::Value(resource)));
@@ -198,6 +199,11 @@ void Driver::obstructAnimationFolder() {
 
 void Driver::removeBundleFile(const std::string& name) {
   state_->phone.folder.remove(state_->phone.bundle + "/" + name);
+}
+
+void Driver::putPhoneFile(const std::string& path, const std::string& bytes) {
+  state_->phone.folder.makeFolders(path.substr(0, path.rfind('/')));
+  state_->phone.folder.replace(path, bytes);
 }
 
 std::vector<std::string> Driver::journal() const { return state_->phone.journal.lines(); }

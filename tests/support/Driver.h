@@ -192,6 +192,8 @@ class Driver {
   void obstructAnimationFolder();
   /// Deletes one of the bundle's files, such as "Header.png".
   void removeBundleFile(const std::string& name);
+  /// Puts a file anywhere on the phone.
+  void putPhoneFile(const std::string& path, const std::string& bytes);
 
   /// @name The preferences file (of the add-on's domain unless another is named).
   /// @{
@@ -208,8 +210,9 @@ class Driver {
   /// The domain as the preferences service answers it.
   std::optional<plist::Value> serviceValue(const std::string& key) const;
 
-  /// Replaces the "Root" list resource by one of that many rows, "Row 0", "Row 1" and so on.
-  void putListResource(int rows);
+  /// Replaces the "Root" list resource by one of that many rows, "Row 0", "Row 1" and so on. It
+  /// leaves the page's title alone unless it has one.
+  void putListResource(int rows, const std::string& title = {});
 
   /// Opens the bundle's first page anew, with a new controller.
   void reopen();
