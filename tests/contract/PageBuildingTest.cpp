@@ -2,23 +2,17 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "tests/contract/Lines.h"
 #include "tests/contract/Rows.h"
 #include "tests/support/Driver.h"
 
 namespace {
 
+using support::between;
 using support::Driver;
+using support::Lines;
 using support::RowFacts;
 using testing::ElementsAreArray;
-
-using Lines = std::vector<std::string>;
-
-/// What was asked of the platform from the first line `from` to the next line `to`.
-Lines between(const Lines& journal, const std::string& from, const std::string& to) {
-  const auto first = std::ranges::find(journal, from);
-  const auto last = std::find(first, journal.end(), to);
-  return last == journal.end() ? Lines() : Lines(first, last + 1);
-}
 
 std::string creation(const RowFacts& row, const std::string& page) {
   if (row.cell == 0) return "PSSpecifier groupSpecifierWithName:" + row.name;
