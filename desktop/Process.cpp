@@ -92,6 +92,8 @@ std::vector<char*> pointersTo(std::vector<std::string>& texts) {
 }
 
 Descriptor start(const Process::Command& command) {
+  // Libraries open files as well, and not all of them keep theirs from other programs.
+  if (close_range(STDERR_FILENO + 1, ~0U, CLOSE_RANGE_CLOEXEC) < 0) check(errno, "close_range");
   FileActions actions;
   if (command.input) {
     actions.duplicate(*command.input, STDIN_FILENO);

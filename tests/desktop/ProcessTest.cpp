@@ -86,7 +86,7 @@ TEST_F(ProcessTest, GetsAnEnvironmentThatReplacesThisOnes) {
 
 TEST_F(ProcessTest, InheritsOnlyWhatItIsToInherit) {
   const Descriptor given(open("/dev/zero", O_RDONLY | O_CLOEXEC));
-  const Descriptor kept(open("/dev/full", O_RDONLY | O_CLOEXEC));
+  const Descriptor kept(open("/dev/full", O_RDONLY));
   Process::Command command = shell("for each in /proc/self/fd/*; do readlink $each; done");
   command.inherited = {given.number()};
   const std::string links = outputOf(command);
