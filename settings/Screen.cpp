@@ -4,6 +4,7 @@
 #include <span>
 #include <string>
 
+#include "desktop/Phone.h"
 #include "desktop/UIKit/ControllerState.h"
 #include "desktop/UIKit/NavigationItemBody.h"
 #include "settings/Nodes.h"
@@ -132,6 +133,13 @@ Tree Screen::tree(const Viewport& viewport, Pictures& pictures) const {
   return tree;
 }
 
+std::optional<Resource> Screen::file(std::string_view address, const Pictures& pictures) const {
+  if (auto picture = pictures.file(address)) return picture;
+  NavigationController* navigation = board_.navigation();
+  if (auto attached = navigation ? attachment(*navigation, address) : std::nullopt) return attached;
+  return bundlePicture(desktop::Phone::current(), address);
+}
+
 const Page* Screen::top() const {
   NavigationController* navigation = board_.navigation();
   return navigation ? &navigation->top() : nullptr;
@@ -160,12 +168,10 @@ desktop::SwitchBody* Screen::barSwitch(std::string_view id) const {
 
 TableBody* Screen::scroller(std::string_view id) const {
   const bool isTop = top() && pageId(*top()) == id;
-  return isTop ? bodyAs<TableBody>(stateOf(*top()).table) : nullptr;
+  return isTop && !isCovered(*top()) ? bodyAs<TableBody>(stateOf(*top()).table) : nullptr;
 }
 
-TableBody* Screen::table() const {
-  return top() && !isCovered(*top()) ? tableOn(*top()) : nullptr;
-}
+TableBody* Screen::table() const { return top() && !isCovered(*top()) ? tableOn(*top()) : nullptr; }
 
 bool Screen::isBackButton(std::string_view id) const {
   return top() && board_.navigation()->pages().size() > 1 && backId(*top()) == id;

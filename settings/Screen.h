@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 #include "desktop/Preferences/Cells.h"
@@ -7,6 +8,7 @@
 #include "desktop/UIKit/SwitchBody.h"
 #include "desktop/UIKit/TableBody.h"
 #include "settings/Pictures.h"
+#include "settings/Resource.h"
 #include "settings/Tree.h"
 #include "settings/Viewport.h"
 
@@ -19,6 +21,10 @@ class Screen {
 
   /// What is to be seen now by a browser with that in view; pictures that are new are noted.
   Tree tree(const Viewport& viewport, Pictures& pictures) const;
+
+  /// The file that what is to be seen has at that address: one of the pictures, an attachment or a
+  /// picture of the bundle; none when there is none.
+  std::optional<Resource> file(std::string_view address, const Pictures& pictures) const;
 
   /// @name What of the page on top the tree calls `id`. Null when it is not, or no longer, on the
   /// screen.
