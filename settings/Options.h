@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "settings/cli/SubCommand.h"
+
 namespace settings {
 
 /// What the command line asks for.
@@ -27,6 +29,10 @@ struct Options {
   std::string mailCommand;
   /// Whether a browser is opened, given that there is a display.
   bool open = true;
+  /// What is to be done instead of showing the page; null to show it.
+  const cli::SubCommand* subCommand = nullptr;
+  /// What was given with it.
+  cli::Request request;
 };
 
 /// The options, or the code to exit with at once: 0 after `--help`, 2 after a mistake, which has

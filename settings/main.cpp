@@ -5,6 +5,7 @@
 
 #include "settings/Options.h"
 #include "settings/Serve.h"
+#include "settings/cli/Run.h"
 
 using namespace settings;
 
@@ -27,6 +28,7 @@ int main(int argc, char** argv) {
   const ParsedOptions parsed = parseOptions(argc, argv);
   if (parsed.exitCode) return *parsed.exitCode;
   try {
+    if (parsed.options.subCommand) return cli::run(parsed.options);
     serve(parsed.options);
     return 0;
   } catch (const std::exception& failure) {

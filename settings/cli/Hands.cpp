@@ -1,0 +1,67 @@
+#include "settings/cli/Hands.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "desktop/Preferences/SpecifierBody.h"
+#include "settings/Overlay.h"
+
+namespace settings::cli {
+
+using Phase = desktop::SpringBoard::Phase;
+
+namespace {
+
+std::string actionOf(const desktop::AnyCell& cell) {
+  const auto* row = std::get_if<desktop::ActionCell>(&cell);
+  return row ? desktop::bodyAs<desktop::SpecifierBody>(row->specifier())->action : "";
+}
+
+bool cancels(const platform::UIAlertAction& action) {
+  return desktop::bodyAs<desktop::AlertActionBody>(action)->style ==
+         platform::UIAlertActionStyle::Cancel;
+}
+
+}  // namespace
+
+Hands::Hands(const Options& options)
+    : session_(options, loop_), timer_(loop_, session_.phone.mainQueue) {
+  session_.phone.report = [this, say = session_.phone.report](const std::string& line) {
+    // What a restart finds has nothing to do with the change before it.
+    if (board().phase() == Phase::Running) complained_ = true;
+    say(line);
+  };
+  clearScreen();
+}
+
+void Hands::tapRow(std::string_view action) {
+  for (const desktop::Section& section : pages().top().sections) {
+    for (const desktop::AnyCell& cell : section.cells) {
+      if (actionOf(cell) == action) return std::get<desktop::ActionCell>(cell).tap();
+    }
+  }
+  throw std::runtime_error("no row of the page does \"" + std::string(action) + '"');
+}
+
+const desktop::AlertBody& Hands::alert() {
+  const auto* shown = desktop::bodyAs<desktop::AlertBody>(pages().presented());
+  if (!shown) throw std::runtime_error("the page did not ask whether that is wanted");
+  return *shown;
+}
+
+void Hands::answerAlert(bool confirmed) {
+  const auto& actions = alert().actions;
+  const auto answer = std::ranges::find(actions, !confirmed, &cancels);
+  if (answer == actions.end()) throw std::runtime_error("the page's question has no such answer");
+  settings::answerAlert(pages(), *answer);
+}
+
+void Hands::change(const std::function<void()>& touch) {
+  complained_ = false;
+  touch();
+  loop_.run();
+  if (complained_) throw std::runtime_error("the change was not stored");
+  if (board().phase() != Phase::Running) throw std::runtime_error("the phone did not restart");
+}
+
+}  // namespace settings::cli

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "settings/cli/SubCommand.h"
+
+namespace settings::cli {
+
+/// Shows every setting that the pages offer. Changes nothing.
+std::string list(Hands& hands, const Request& request);
+
+}  // namespace settings::cli

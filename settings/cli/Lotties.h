@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "settings/cli/SubCommand.h"
+
+namespace settings::cli {
+
+/// The key under which the names of the enabled animations are stored. No row has it: the list
+/// of animations is a page of its own.
+inline constexpr const char* enabledLottiesKey = "enabledLotties";
+
+/// The names of the enabled animations, in the user's order.
+std::vector<std::string> enabledLotties(Hands& hands);
+
+/// @name What the list of animations is for, by what a finger would do to its rows. An animation
+/// whose name stands there twice is the first of that name.
+/// @{
+std::string listLotties(Hands& hands, const Request& request);
+std::string enableLottie(Hands& hands, const Request& request);
+std::string disableLottie(Hands& hands, const Request& request);
+std::string moveLottie(Hands& hands, const Request& request);
+/// @}
+
+}  // namespace settings::cli

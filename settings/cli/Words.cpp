@@ -1,0 +1,66 @@
+#include "settings/cli/Words.h"
+
+#include <algorithm>
+#include <numeric>
+#include <vector>
+
+namespace settings::cli {
+
+namespace {
+
+/// The longest word that is compared, in bytes, since the time grows with its square.
+constexpr std::size_t longest = 256;
+
+char lower(char letter) {
+  return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + ('a' - 'A')) : letter;
+}
+
+bool isSameLetter(char one, char other) { return lower(one) == lower(other); }
+
+/// How many letters have to be put in, taken out or exchanged to make one word of the other, small
+/// and capital letters being the same (the Levenshtein distance).
+std::size_t distance(std::string_view one, std::string_view other) {
+  std::vector<std::size_t> row(other.size() + 1);
+  std::iota(row.begin(), row.end(), std::size_t{0});
+  for (std::size_t i = 0; i < one.size(); ++i) {
+    std::size_t diagonal = row[0]++;
+    for (std::size_t j = 0; j < other.size(); ++j) {
+      const std::size_t exchanged = diagonal + (isSameLetter(one[i], other[j]) ? 0 : 1);
+      diagonal = row[j + 1];
+      row[j + 1] = std::min({row[j] + 1, row[j + 1] + 1, exchanged});
+    }
+  }
+  return row.back();
+}
+
+/// How far a known word may be from one that was meant to be it.
+std::size_t tolerance(std::string_view known) { return std::max<std::size_t>(1, known.size() / 3); }
+
+}  // namespace
+
+bool isSameWord(std::string_view one, std::string_view other) {
+  return std::ranges::equal(one, other, isSameLetter);
+}
+
+std::string suggestion(std::string_view word, std::span<const std::string> known,
+                       const std::string& otherwise) {
+  std::vector<std::string> nearest;
+  std::size_t least = longest;
+  for (const std::string& each : known) {
+    if (word.size() > longest || each.size() > longest) continue;
+    const std::size_t far = distance(word, each);
+    if (far > tolerance(each) || far > least) continue;
+    if (far < least) nearest.clear();
+    least = far;
+    nearest.push_back('"' + each + '"');
+  }
+  return nearest.empty() ? otherwise : "; did you mean " + joined(nearest) + "?";
+}
+
+std::string joined(std::span<const std::string> texts) {
+  std::string all;
+  for (const std::string& text : texts) all += (all.empty() ? "" : ", ") + text;
+  return all;
+}
+
+}  // namespace settings::cli
