@@ -1,32 +1,51 @@
 #include "settings/Pictures.h"
 
+#include <system_error>
+
 #include "desktop/UIKit/ImageBody.h"
 
 namespace settings {
 
 namespace {
 
-/// More than a page and its successor show.
-constexpr std::size_t maximumFiles = 16;
+constexpr const char* pngType = "image/png";
 
-std::string addressOf(unsigned number) { return "/pictures/" + std::to_string(number) + ".png"; }
+const desktop::ImageBody& bodyOf(const platform::UIImage& image) {
+  return *desktop::bodyAs<desktop::ImageBody>(image);
+}
+
+std::string addressOf(const platform::UIImage& image) {
+  return "/pictures/" + std::to_string(bodyOf(image).number) + ".png";
+}
 
 }  // namespace
 
 std::string Pictures::address(const platform::UIImage& image) {
-  const auto& body = *desktop::bodyAs<desktop::ImageBody>(image);
-  if (!files_.contains(body.number)) {
-    files_[body.number] = body.png();
-    if (files_.size() > maximumFiles) files_.erase(files_.begin());
-  }
-  return addressOf(body.number);
+  std::erase(shown_, image);
+  shown_.push_back(image);
+  if (shown_.size() > maximum) shown_.pop_front();
+  return addressOf(image);
 }
 
-const std::string* Pictures::file(std::string_view address) const {
-  for (const auto& [number, file] : files_) {
-    if (addressOf(number) == address) return &file;
+std::optional<Resource> Pictures::file(std::string_view address) const {
+  for (const platform::UIImage& image : shown_) {
+    if (addressOf(image) == address) return Resource{pngType, bodyOf(image).png()};
   }
-  return nullptr;
+  return std::nullopt;
+}
+
+std::optional<Resource> bundlePicture(const desktop::Phone& phone, std::string_view address) {
+  constexpr std::string_view folder = "/bundle/";
+  if (!address.starts_with(folder) || !address.ends_with(".png")) return std::nullopt;
+  const std::string_view name = address.substr(folder.size());
+  if (name.starts_with('.') || name.find('/') != std::string_view::npos) return std::nullopt;
+  try {
+    auto bytes = phone.folder.read(phone.bundle + '/' + std::string(name));
+    if (bytes) return Resource{pngType, *std::move(bytes)};
+  } catch (const std::system_error&) {
+    // What cannot be read is not offered.
+  }
+  return std::nullopt;
 }
 
 }  // namespace settings
