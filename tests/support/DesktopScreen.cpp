@@ -1,4 +1,4 @@
-#include <cmath>
+#include <algorithm>
 
 #include "desktop/MessageUI/MailBody.h"
 #include "desktop/OrvalenPrefs/WelcomeBody.h"
@@ -119,9 +119,15 @@ std::optional<double> Driver::blur() const {
 
 void Driver::pass(double seconds) {
   using Clock = desktop::MainQueue::Clock;
-  state_->time +=
-      std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(seconds));
-  state_->phone.mainQueue.run();
+  desktop::MainQueue& queue = state_->phone.mainQueue;
+  const Clock::time_point end = state_->time + std::chrono::duration_cast<Clock::duration>(
+                                                   std::chrono::duration<double>(seconds));
+  // From one piece of work to the next: what it puts off counts from when it was due.
+  for (auto due = queue.due(); due && *due <= end; due = queue.due()) {
+    state_->time = std::max(state_->time, *due);
+    queue.run();
+  }
+  state_->time = end;
 }
 
 bool Driver::isRestarting() const { return !state_->phone.springBoard.navigation(); }
