@@ -69,12 +69,18 @@ bool put(desktop::ColorCell* cell, const std::string& text) {
 }
 /// @}
 
+/// What the control takes. Here, other than in a list, whole numbers need to be told.
+std::string offered(const Control& control) {
+  const Description about = describe(control);
+  return about.takes + (about.bounds.value("step", nlohmann::json()) == 1 ? " in steps of 1" : "");
+}
+
 }  // namespace
 
 void change(const Row& row, const std::string& text) {
   if (!row.enabled) throw std::runtime_error(row.key + " is disabled");
   if (std::visit([&](auto* known) { return put(known, text); }, row.control)) return;
-  throw UsageError(row.key + " takes " + describe(row.control).takes + ", and not \"" + text + '"');
+  throw UsageError(row.key + " takes " + offered(row.control) + ", and not \"" + text + '"');
 }
 
 }  // namespace settings::cli
