@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <grp.h>
 #include <poll.h>
+#include <pty.h>
 #include <stdexcept>
 #include <sys/wait.h>
 #include <thread>
@@ -39,6 +40,7 @@ void setEnvironment(const Start& start) {
 /// In the child. The program is opened first: nobody may not be allowed to reach it by its path.
 [[noreturn]] void become(const Start& start, const int (&pipes)[2][2]) {
   const int program = open(QUILLMERE_PROGRAM, O_RDONLY | O_CLOEXEC);
+  dup2(start.typed ? pipes[1][1] : open("/dev/null", O_RDONLY | O_CLOEXEC), STDIN_FILENO);
   dup2(pipes[0][1], STDOUT_FILENO);
   dup2(pipes[1][1], STDERR_FILENO);
   if (start.output == Start::Output::Closed) close(STDOUT_FILENO);
@@ -52,6 +54,18 @@ void setEnvironment(const Start& start) {
   _exit(127);
 }
 
+/// Puts a terminal on which that was typed in the place of a pipe.
+void becomeTerminal(int (&ends)[2], const std::string& typed) {
+  for (const int end : ends) close(end);
+  if (openpty(&ends[0], &ends[1], nullptr, nullptr, nullptr) != 0) {
+    throw std::runtime_error("no terminal");
+  }
+  for (const int end : ends) fcntl(end, F_SETFD, FD_CLOEXEC);
+  if (write(ends[0], typed.data(), typed.size()) != static_cast<ssize_t>(typed.size())) {
+    throw std::runtime_error("nothing can be typed");
+  }
+}
+
 }  // namespace
 
 Program::Program(const Start& start) {
@@ -59,6 +73,7 @@ Program::Program(const Start& start) {
   for (auto& each : pipes) {
     if (pipe2(each, O_CLOEXEC) != 0) throw std::runtime_error("no pipe");
   }
+  if (start.typed) becomeTerminal(pipes[1], *start.typed);
   process_ = fork();
   if (process_ < 0) throw std::runtime_error("no process");
   if (process_ == 0) become(start, pipes);

@@ -16,6 +16,9 @@ struct Start {
   std::map<std::string, std::optional<std::string>> environment{};
   /// Whether root becomes nobody first, so that file modes count.
   bool unprivileged = false;
+  /// What is typed on the terminal that standard input and standard error then are. Without one,
+  /// nothing can be read.
+  std::optional<std::string> typed{};
   enum class Output { Read, Closed, Broken } output = Output::Read;
 };
 
