@@ -1,5 +1,8 @@
 #include "desktop/Identity.h"
 
+#include <array>
+#include <charconv>
+
 #include "desktop/Foundation/PropertyListFile.h"
 
 namespace desktop {
@@ -24,6 +27,21 @@ Identity readIdentity(const PhoneFolder& folder) {
   } catch (const UnreadableFile&) {
     return {};  // The phone works without knowing what it is.
   }
+}
+
+std::optional<platform::NSOperatingSystemVersion> parseVersion(std::string_view text) {
+  platform::NSOperatingSystemVersion version;
+  const std::array parts = {&version.majorVersion, &version.minorVersion, &version.patchVersion};
+  const char* const end = text.data() + text.size();
+  const char* at = text.data();
+  for (long* part : parts) {
+    const auto [next, error] = std::from_chars(at, end, *part);
+    if (error != std::errc() || *part < 0) return std::nullopt;
+    if (next == end) return version;
+    if (*next != '.') return std::nullopt;
+    at = next + 1;
+  }
+  return std::nullopt;
 }
 
 }  // namespace desktop

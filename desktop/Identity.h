@@ -2,8 +2,10 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "desktop/PhoneFolder.h"
+#include "platform/Foundation/NSProcessInfo.h"
 
 namespace desktop {
 
@@ -20,5 +22,8 @@ struct Identity {
 /// What the phone's SystemVersion.plist says. A phone's own names no product type, which its
 /// hardware knows there. A file that is missing or unreadable gives nothing.
 Identity readIdentity(const PhoneFolder& folder);
+
+/// Reads "14", "14.8" or "14.8.1"; none for anything else.
+std::optional<platform::NSOperatingSystemVersion> parseVersion(std::string_view text);
 
 }  // namespace desktop

@@ -3,8 +3,9 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
-#include <regex>
 #include <string>
+
+#include "desktop/Identity.h"
 
 namespace settings {
 
@@ -23,8 +24,8 @@ CLI::Validator something() {
 
 CLI::Validator version() {
   return {[](const std::string& value) {
-            const bool fits = std::regex_match(value, std::regex("[0-9]{1,4}(\\.[0-9]{1,4}){0,2}"));
-            return fits ? "" : "\"" + value + "\" is no version, such as 14.3";
+            return desktop::parseVersion(value) ? ""
+                                                : "\"" + value + "\" is no version, such as 14.3";
           },
           ""};
 }

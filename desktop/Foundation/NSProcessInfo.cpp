@@ -1,8 +1,5 @@
 #include "platform/Foundation/NSProcessInfo.h"
 
-#include <array>
-#include <charconv>
-#include <optional>
 #include <string>
 
 #include "desktop/Message.h"
@@ -21,22 +18,6 @@ std::string textOf(const NSOperatingSystemVersion& version) {
          std::to_string(version.patchVersion);
 }
 
-/// Reads "14", "14.8" or "14.8.1"; none for anything else.
-std::optional<NSOperatingSystemVersion> versionIn(std::string_view text) {
-  NSOperatingSystemVersion version;
-  const std::array parts = {&version.majorVersion, &version.minorVersion, &version.patchVersion};
-  const char* const end = text.data() + text.size();
-  const char* at = text.data();
-  for (long* part : parts) {
-    const auto [next, error] = std::from_chars(at, end, *part);
-    if (error != std::errc() || *part < 0) return std::nullopt;
-    if (next == end) return version;
-    if (*next != '.') return std::nullopt;
-    at = next + 1;
-  }
-  return std::nullopt;
-}
-
 }  // namespace
 
 NSProcessInfo NSProcessInfo::processInfo() {
@@ -51,7 +32,7 @@ bool NSProcessInfo::isOperatingSystemAtLeastVersion(const NSOperatingSystemVersi
       *this, "isOperatingSystemAtLeastVersion:", {std::string_view(textOf(version))},
       [&](ProcessInfoBody&) {
         const auto known =
-            versionIn(desktop::Phone::current().identity.productVersion.value_or(""));
+            desktop::parseVersion(desktop::Phone::current().identity.productVersion.value_or(""));
         // A phone that does not know its system counts as the newest.
         return !known || *known >= version;
       });
