@@ -20,18 +20,6 @@ namespace platform {
 using desktop::AnchorBody;
 using desktop::ConstraintBody;
 
-namespace {
-
-void activate(const ConstraintBody& constraint) {
-  const auto& first = *desktop::bodyAs<AnchorBody>(constraint.first);
-  const auto& second = *desktop::bodyAs<AnchorBody>(constraint.second);
-  desktop::ViewBody& view = *desktop::viewOf(first.view);
-  view.tied.push_back(first.edge);
-  view.tiedTo = second.view;
-}
-
-}  // namespace
-
 NSLayoutConstraint NSLayoutAnchor::constraintEqualToAnchor(const NSLayoutAnchor& anchor) const {
   return desktop::send<AnchorBody>(*this, "constraintEqualToAnchor:", {anchor}, [&](AnchorBody&) {
     return anchor ? desktop::make<NSLayoutConstraint, ConstraintBody>(*this, anchor)
@@ -45,11 +33,8 @@ void NSLayoutConstraint::activateConstraints(
   for (const NSLayoutConstraint& constraint : constraints) {
     if (constraint) list += (list.empty() ? "" : ", ") + desktop::description(constraint);
   }
-  desktop::sendClass("NSLayoutConstraint", "activateConstraints:", {std::string_view(list)}, [&] {
-    for (const NSLayoutConstraint& constraint : constraints) {
-      if (const auto* body = desktop::bodyAs<ConstraintBody>(constraint)) activate(*body);
-    }
-  });
+  // Noted, and not solved: the page lays the views out, by rules of its own.
+  desktop::sendClass("NSLayoutConstraint", "activateConstraints:", {std::string_view(list)}, [] {});
 }
 
 }  // namespace platform

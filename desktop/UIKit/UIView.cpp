@@ -81,8 +81,8 @@ void UIView::setContentMode(UIViewContentMode mode) {
 }
 
 void UIView::setAutoresizingMask(UIViewAutoresizing mask) {
-  send<ViewBody>(*this, "setAutoresizingMask:", {static_cast<double>(mask)},
-                 [&](ViewBody& self) { self.autoresizing = mask; });
+  // The page lays the views out, by rules of its own.
+  send<ViewBody>(*this, "setAutoresizingMask:", {static_cast<double>(mask)}, [](ViewBody&) {});
 }
 
 void UIView::setTintColor(const UIColor& color) {
@@ -91,7 +91,7 @@ void UIView::setTintColor(const UIColor& color) {
 
 void UIView::setTranslatesAutoresizingMaskIntoConstraints(bool translates) {
   send<ViewBody>(*this, "setTranslatesAutoresizingMaskIntoConstraints:", {translates},
-                 [&](ViewBody& self) { self.translatesMask = translates; });
+                 [](ViewBody&) {});
 }
 
 NSLayoutAnchor UIView::topAnchor() const { return anchor(*this, Edge::Top); }
@@ -101,7 +101,9 @@ NSLayoutAnchor UIView::bottomAnchor() const { return anchor(*this, Edge::Bottom)
 
 void UIView::addSubview(const UIView& view) {
   send<ViewBody>(*this, "addSubview:", {view}, [&](ViewBody& self) {
-    if (view) self.subviews.push_back(view);
+    if (!view) return;
+    std::erase(self.subviews, view);  // One that is there already comes to the top.
+    self.subviews.push_back(view);
   });
 }
 

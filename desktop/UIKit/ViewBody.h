@@ -36,8 +36,6 @@ class ViewBody : public Body {
   double fade = 0;
   bool clipsToBounds = false;
   platform::UIViewContentMode contentMode = platform::UIViewContentMode::ScaleToFill;
-  platform::UIViewAutoresizing autoresizing = platform::UIViewAutoresizing::None;
-  bool translatesMask = true;
   platform::UIColor background;
   platform::UIColor tint;
 
@@ -47,9 +45,6 @@ class ViewBody : public Body {
 
   /// The lowest one first.
   std::vector<platform::UIView> subviews;
-  /// The edges that constraints tie to the same edge of `tiedTo`.
-  std::vector<Edge> tied;
-  platform::Object tiedTo;
 };
 
 /// The body of a view; null for none and for what is no view.
