@@ -18,13 +18,15 @@ constexpr platform::CGSize switchSize{51, 31};
 SwitchBody::SwitchBody() { frame.size = switchSize; }
 
 void SwitchBody::toggle(bool position, bool inside) {
+  retain();  // An action may take the switch off the screen.
+  const auto self = platform::Backend::adopt<platform::UISwitch>(static_cast<Body*>(this));
   const bool changed = std::exchange(on, position) != position;
   if (changed) report(UIControlEvents::ValueChanged);
   if (inside) report(UIControlEvents::TouchUpInside);
 }
 
 void SwitchBody::report(UIControlEvents event) {
-  // A copy: an action may take the switch off the screen.
+  // A copy: an action may add targets.
   for (const ControlTarget& target : std::vector(targets)) {
     if (target.events == event) perform(*target.controller, target.action, {});
   }
