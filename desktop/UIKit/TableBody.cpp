@@ -63,6 +63,7 @@ void TableBody::reload() {
 }
 
 void TableBody::retireCells() {
+  retired_.clear();  // What nobody has asked for since is not wanted.
   for (auto& [position, cell] : cells_) {
     const auto* body = bodyAs<TableCellBody>(cell);
     if (body) retired_[body->reuseIdentifier].push_back(cell);
@@ -74,7 +75,8 @@ UITableViewCellEditingStyle TableBody::editingStyle(const NSIndexPath& path) {
   if (!isEditing || !dataSource->canEditRowAtIndexPath(handle(), path)) {
     return UITableViewCellEditingStyle::None;
   }
-  return delegate->editingStyleForRowAtIndexPath(handle(), path);
+  return delegate ? delegate->editingStyleForRowAtIndexPath(handle(), path)
+                  : UITableViewCellEditingStyle::Delete;
 }
 
 bool TableBody::isMovable(const NSIndexPath& path) {
@@ -101,7 +103,8 @@ void TableBody::drag(const NSIndexPath& source, const NSIndexPath& proposed) {
   cancelConfirmation();
   if (!isMovable(source)) return;
   const NSIndexPath target =
-      delegate->targetIndexPathForMoveFromRowAtIndexPath(handle(), source, proposed);
+      delegate ? delegate->targetIndexPathForMoveFromRowAtIndexPath(handle(), source, proposed)
+               : proposed;
   dataSource->moveRowAtIndexPath(handle(), source, target);
 }
 
