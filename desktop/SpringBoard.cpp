@@ -15,12 +15,17 @@ void SpringBoard::respringAndReturnTo(const std::string& address) {
   if (phase_ != Phase::Running) return;
   phase_ = Phase::Dark;
   if (onRespring) onRespring();
-  // What the application still meant to do ends with it. It ends in a turn of its own, since it
-  // may be the one that is asking.
+  // The application ends in a turn of its own, since it may be the one that is asking.
   queue_.clear();
-  queue_.after({}, [this] { application_.reset(); });
-  queue_.after(darkTime, [this] { phase_ = Phase::Locked; });
-  queue_.after(darkTime + lockedTime, [this, address] { open(address); });
+  queue_.after({}, [this, address, began = queue_.now()] { restart(address, began); });
+}
+
+void SpringBoard::restart(const std::string& address, MainQueue::Clock::time_point began) {
+  application_.reset();
+  queue_.clear();  // What the application still meant to do ends with it.
+  const auto passed = queue_.now() - began;
+  queue_.after(darkTime - passed, [this] { phase_ = Phase::Locked; });
+  queue_.after(darkTime + lockedTime - passed, [this, address] { open(address); });
 }
 
 NavigationController* SpringBoard::navigation() {

@@ -46,6 +46,9 @@ class SpringBoard {
   std::function<void()> onRespring;
 
  private:
+  /// Ends the application, and lets the two phases follow, counted from `began`.
+  void restart(const std::string& address, MainQueue::Clock::time_point began);
+
   MainQueue& queue_;
   Phase phase_ = Phase::Dark;
   std::unique_ptr<SettingsApplication> application_;
