@@ -114,9 +114,11 @@ std::optional<TableTarget> tableTarget(TableBody& table, std::string_view id) {
   if (!row) return std::nullopt;
 
   const NSIndexPath path{*section, *row};
-  if (!table.contains(path)) return std::nullopt;
+  // A number may have been written otherwise than the tree does, as in "01".
+  if (!table.contains(path) || id != rowId(table, path) + std::string(rest)) return std::nullopt;
+  const bool hasControl = table.editingStyle(path) != UITableViewCellEditingStyle::None;
   if (rest.empty()) return TableTarget{path, Part::Row};
-  if (rest == controlEnding) return TableTarget{path, Part::Control};
+  if (rest == controlEnding && hasControl) return TableTarget{path, Part::Control};
   if (rest == confirmEnding && table.confirming() == path) return TableTarget{path, Part::Confirm};
   return std::nullopt;
 }

@@ -20,7 +20,7 @@ struct TableTarget {
   Part part;
 };
 
-/// What the tree calls `id`; none when that is no row of the table, or no button that it has.
+/// What the tree calls `id`; none when that is no row of the table, or no button that the row has.
 std::optional<TableTarget> tableTarget(desktop::TableBody& table, std::string_view id);
 
 }  // namespace settings
