@@ -64,16 +64,20 @@ Response file(const Asset& asset, const Request& request) {
   return finished(std::move(response), request);
 }
 
-/// Pictures and plain text are shown; anything else is saved, since it may be a page of its own.
+/// The types that a browser may show, and what it is told of them.
+constexpr std::pair<std::string_view, const char*> shownTypes[] = {
+    {"image/png", "image/png"},
+    {"text/plain", "text/plain; charset=utf-8"},
+};
+
+/// What is not for the browser to show is saved, since it may be a page of its own.
 Response resource(const Resource& offered, const Request& request) {
   Response response = bare(request, http::status::ok);
-  const bool isText = offered.type == "text/plain";
-  response.set(http::field::content_type,
-               isText ? "text/plain; charset=utf-8" : offered.type.c_str());
-  if (!isText && offered.type != "image/png") {
-    response.set(http::field::content_type, "application/octet-stream");
-    response.set(http::field::content_disposition, "attachment");
-  }
+  const auto* shown =
+      std::ranges::find(shownTypes, offered.type, &std::pair<std::string_view, const char*>::first);
+  const bool isShown = shown != std::end(shownTypes);
+  response.set(http::field::content_type, isShown ? shown->second : "application/octet-stream");
+  if (!isShown) response.set(http::field::content_disposition, "attachment");
   response.body() = offered.bytes;
   return finished(std::move(response), request);
 }
