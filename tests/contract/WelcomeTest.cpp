@@ -159,14 +159,6 @@ TEST_F(Welcome, ComesBackWithTheNextAppearanceOnceTheKeyIsRemoved) {
   }
 }
 
-TEST_F(Welcome, IsBuiltAnewOnEveryAppearanceWhileItIsDue) {
-  openOn("13.0");
-  for (int times = 0; times < 2; ++times) {
-    appearAgain();
-    EXPECT_THAT(appearing(), ElementsAreArray(asked + lookedUp + presented));
-  }
-}
-
 TEST_F(Welcome, IsOnlyForTheFirstPage) {
   openOn("13.0");
   phone.leaveWelcome();
