@@ -52,7 +52,8 @@ std::string suggestion(std::string_view word, std::span<const std::string> known
     if (far > tolerance(each) || far > least) continue;
     if (far < least) nearest.clear();
     least = far;
-    nearest.push_back('"' + each + '"');
+    const std::string quoted = '"' + each + '"';
+    if (std::ranges::find(nearest, quoted) == nearest.end()) nearest.push_back(quoted);
   }
   return nearest.empty() ? otherwise : "; did you mean " + joined(nearest) + "?";
 }
