@@ -11,7 +11,9 @@ export function create(_, context) {
   const confirm = element('button', { type: 'button', class: 'confirm', hidden: true }, 'Delete');
   const cell = element('div', { class: 'cell', role: 'listitem' }, control, label, grip, confirm);
   const view = { element: cell, control, label, grip, confirm };
-  control.addEventListener('click', () => context.touch({ kind: 'tap' }, view.node.control));
+  // Once it asks, the control takes back what it asked.
+  control.addEventListener('click', () =>
+    context.touch({ kind: 'tap' }, view.node.confirm ? context.id : view.node.control));
   confirm.addEventListener('click', () => context.touch({ kind: 'tap' }, view.node.confirm));
   return view;
 }

@@ -1,0 +1,97 @@
+import assert from 'node:assert/strict';
+import { eventually } from './fixture/eventually.js';
+import { five, focused, list } from './fixture/list.js';
+import { scenario } from './fixture/scenario.js';
+
+const expectEnabled = async (screen, ...names) => {
+  await eventually(async () => assert.deepEqual(await list(screen).enabled(), names));
+  const { enabledLotties } = await screen.stored();
+  assert.equal(enabledLotties, `[${names.map((name) => `'${name}'`).join(', ')}]`);
+};
+
+const expectFocus = (screen, name) =>
+  eventually(async () => assert.equal(await focused(screen), name));
+
+scenario('the list shows what is enabled in its order, and what else is installed', five,
+  async (screen) => {
+    await screen.push('Lotties');
+    const { enabled, disabled } = list(screen);
+    assert.deepEqual(await enabled(), ['Aurora', 'Breeze', 'Comet']);
+    assert.deepEqual((await disabled()).sort(), ['Dune', 'Ember']);
+    await screen.pop('Quillmere');
+    assert.equal(await focused(screen), 'Lotties');
+  });
+
+scenario('the green button enables at once, and the row stands first then', five,
+  async (screen) => {
+    await screen.push('Lotties');
+    await list(screen).button('Insert', 'Ember').click();
+    await expectEnabled(screen, 'Ember', 'Aurora', 'Breeze', 'Comet');
+    assert.deepEqual(await list(screen).disabled(), ['Dune']);
+  });
+
+scenario('the red button asks first, and then disables', five, async (screen) => {
+  const before = screen.phone.bytes();
+  await screen.push('Lotties');
+  const { button, disabled } = list(screen);
+  await button('Delete', 'Breeze').click();
+  const confirm = screen.page.getByRole('button', { name: 'Delete Breeze now' });
+  assert.equal(await confirm.innerText(), 'Delete');
+  await expectFocus(screen, 'Delete Breeze now');
+  await screen.answered();
+  assert.deepEqual(screen.phone.bytes(), before, 'nothing is stored before it is confirmed');
+  await confirm.click();
+  await expectEnabled(screen, 'Aurora', 'Comet');
+  assert.equal((await disabled()).at(-1), 'Breeze');
+  await expectFocus(screen, 'Delete Comet');
+});
+
+/** The ways of thinking better of it; Comet's row is below the one that asks. */
+const ways = {
+  'the Escape key': ({ page }) => page.keyboard.press('Escape'),
+  'a tap on another row': (screen) =>
+    list(screen).section('Enabled').getByText('Comet', { exact: true }).click(),
+  'a tap on the same red button': (screen) => list(screen).button('Delete', 'Breeze').click(),
+  'another row’s red button': (screen) => list(screen).button('Delete', 'Comet').click(),
+};
+
+for (const [way, takeBack] of Object.entries(ways)) {
+  scenario(`asked, the user leaves it as it is by ${way}`, five, async (screen) => {
+    const before = screen.phone.bytes();
+    await screen.push('Lotties');
+    await list(screen).button('Delete', 'Breeze').click();
+    await expectFocus(screen, 'Delete Breeze now');
+    await takeBack(screen);
+    const confirm = screen.page.getByRole('button', { name: 'Delete Breeze now' });
+    await confirm.waitFor({ state: 'hidden' });
+    await screen.answered();
+    assert.deepEqual(screen.phone.bytes(), before);
+    assert.deepEqual(await list(screen).enabled(), ['Aurora', 'Breeze', 'Comet']);
+  });
+}
+
+scenario('enabling and disabling are done by keyboard alone', five, async (screen) => {
+  const { page } = screen;
+  await screen.push('Lotties');
+  await page.keyboard.press('Tab');
+  await expectFocus(screen, 'Delete Aurora');
+  for (const key of ['Tab', 'Tab', 'Enter']) await page.keyboard.press(key);
+  await expectFocus(screen, 'Delete Breeze now');
+  await page.keyboard.press('Escape');
+  await expectFocus(screen, 'Delete Breeze');
+  await page.keyboard.press('Space');
+  await expectFocus(screen, 'Delete Breeze now');
+  await page.keyboard.press('Space');
+  await expectFocus(screen, 'Delete Comet');
+  await expectEnabled(screen, 'Aurora', 'Comet');
+  await list(screen).button('Insert', 'Breeze').focus();
+  await page.keyboard.press('Enter');
+  await expectEnabled(screen, 'Breeze', 'Aurora', 'Comet');
+});
+
+scenario('each row says where it stands in its section', five, async (screen) => {
+  await screen.push('Lotties');
+  const places = await list(screen).section('Enabled').getByRole('listitem').evaluateAll((rows) =>
+    rows.map((row) => [row.getAttribute('aria-posinset'), row.getAttribute('aria-setsize')]));
+  assert.deepEqual(places, [['1', '3'], ['2', '3'], ['3', '3']]);
+});

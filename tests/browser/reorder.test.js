@@ -1,0 +1,121 @@
+import assert from 'node:assert/strict';
+import { eventually } from './fixture/eventually.js';
+import { swipe } from './fixture/finger.js';
+import { five, focused, list } from './fixture/list.js';
+import { scenario } from './fixture/scenario.js';
+
+const rowHeight = 44;
+
+async function expectOrder(screen, ...names) {
+  await eventually(async () => assert.deepEqual(await list(screen).enabled(), names));
+  const { enabledLotties } = await screen.stored();
+  assert.equal(enabledLotties, `[${names.map((name) => `'${name}'`).join(', ')}]`);
+}
+
+const middle = async (locator) => {
+  const { x, y, width, height } = await locator.boundingBox();
+  return { x: x + width / 2, y: y + height / 2 };
+};
+
+/** Takes a row by its grip with the mouse and moves it by pixels; the button stays down. */
+async function take(screen, name, distance) {
+  const { x, y } = await middle(list(screen).grip(name));
+  const { mouse } = screen.page;
+  await mouse.move(x, y);
+  await mouse.down();
+  await mouse.move(x, y + distance, { steps: 8 });
+}
+
+scenario('a row is dragged down and up again with the mouse', five, async (screen) => {
+  await screen.push('Lotties');
+  await take(screen, 'Aurora', 2 * rowHeight);
+  await screen.page.mouse.up();
+  await expectOrder(screen, 'Breeze', 'Comet', 'Aurora');
+  await take(screen, 'Aurora', -rowHeight);
+  await screen.page.mouse.up();
+  await expectOrder(screen, 'Breeze', 'Aurora', 'Comet');
+});
+
+scenario('a row is dragged with a finger', { ...five, look: { hasTouch: true } },
+  async (screen) => {
+    await screen.push('Lotties');
+    const ways = Array.from({ length: 12 }, (_, i) => [0, -8 * i]);
+    await swipe(screen, await middle(list(screen).grip('Comet')), ways);
+    await expectOrder(screen, 'Comet', 'Aurora', 'Breeze');
+  });
+
+scenario('rows make way for the one in the hand', five, async (screen) => {
+  await screen.push('Lotties');
+  await take(screen, 'Aurora', rowHeight);
+  const top = async (name) =>
+    (await middle(list(screen).section('Enabled').getByText(name, { exact: true }).first())).y;
+  const [breeze, comet] = [await top('Breeze'), await top('Comet')];
+  assert.ok(Math.abs(comet - breeze - 2 * rowHeight) < 1, 'there is a gap between the two');
+  await screen.page.mouse.up();
+  await expectOrder(screen, 'Breeze', 'Aurora', 'Comet');
+});
+
+scenario('a row that is dropped over the other section snaps back', five, async (screen) => {
+  const before = screen.phone.bytes();
+  await screen.push('Lotties');
+  const to = await middle(list(screen).section('Disabled').getByRole('listitem').nth(1));
+  await take(screen, 'Aurora', to.y - (await middle(list(screen).grip('Aurora'))).y);
+  await screen.page.mouse.up();
+  await screen.answered();
+  const { kind, section, row } = screen.touches.at(-1);
+  assert.deepEqual({ kind, section, row }, { kind: 'drag', section: 1, row: 1 });
+  assert.deepEqual(await list(screen).enabled(), ['Aurora', 'Breeze', 'Comet']);
+  const tops = await list(screen).section('Enabled').getByRole('listitem').evaluateAll((rows) =>
+    rows.map((row) => [row.offsetTop, getComputedStyle(row).translate]));
+  assert.deepEqual(tops, [[0, 'none'], [44, 'none'], [88, 'none']]);
+  assert.deepEqual(screen.phone.bytes(), before);
+});
+
+scenario('a row of the other section has no grip', five, async (screen) => {
+  await screen.push('Lotties');
+  assert.equal(await list(screen).grip('Aurora').count(), 1);
+  assert.equal(await list(screen).grip('Dune').count(), 0);
+});
+
+scenario('a row is moved by arrow keys, keeps the keyboard and says where it is', five,
+  async (screen) => {
+    const { page } = screen;
+    const says = (text) => eventually(async () =>
+      assert.equal(await page.locator('#announcement').textContent(), text));
+    await screen.push('Lotties');
+    await list(screen).grip('Aurora').focus();
+    for (const [key, place, ...order] of [
+      ['ArrowDown', 2, 'Breeze', 'Aurora', 'Comet'], ['ArrowDown', 3, 'Breeze', 'Comet', 'Aurora'],
+      ['ArrowUp', 2, 'Breeze', 'Aurora', 'Comet'], ['ArrowUp', 1, 'Aurora', 'Breeze', 'Comet'],
+    ]) {
+      await page.keyboard.press(key);
+      await expectOrder(screen, ...order);
+      assert.equal(await focused(screen), 'Reorder Aurora');
+      await says(`Aurora, ${place} of 3`);
+    }
+    const sent = screen.touches.length;
+    await page.keyboard.press('ArrowUp');
+    await screen.answered();
+    assert.equal(screen.touches.length, sent, 'there is nothing above the first');
+  });
+
+scenario('a row that is dragged to the edge of the screen scrolls the list along',
+  { animations: Array.from({ length: 60 }, (_, i) => `Wave ${i}`),
+    values: `{'enabledLotties': [f'Wave {i}' for i in range(60)]}` },
+  async (screen) => {
+    await screen.push('Lotties');
+    const { content } = list(screen);
+    const { y, height } = await content.boundingBox();
+    const grip = await middle(list(screen).grip('Wave 0'));
+    await take(screen, 'Wave 0', y + height - 20 - grip.y);
+    await eventually(async () => {
+      await screen.page.mouse.move(grip.x, y + height - 20 + Math.random());
+      assert.ok(await content.evaluate((at) => at.scrollTop) > 1000);
+    });
+    await screen.page.mouse.up();
+    await screen.answered();
+    const { row } = screen.touches.findLast(({ kind }) => kind === 'drag');
+    assert.ok(row > 20, `dropped at ${row}`);
+    const { enabledLotties } = await screen.stored();
+    assert.equal(enabledLotties.split(', ')[row].replace(']', ''), "'Wave 0'");
+  });
