@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
+#include <vector>
 
 #include "tests/program/Connection.h"
 #include "tests/program/Program.h"
@@ -28,7 +29,9 @@ class RunningProgram : public testing::Test {
   }
 
   const support::TemporaryFolder folder;
-  Program program{{{"--root", folder.path.string()}}};
+  /// A system from before the welcome screen, which would cover the page.
+  const std::vector<std::string> arguments{"--root", folder.path.string(), "--ios-version", "12.4"};
+  Program program{{arguments}};
   const std::uint16_t port = program.port();
   const std::string invitation = program.invitation();
   const std::string host = "127.0.0.1:" + std::to_string(port);

@@ -29,7 +29,7 @@ class SharedFolder : public RunningProgram {
     return socket;
   }
 
-  Program other{{{"--root", folder.path.string()}}};
+  Program other{{arguments}};
   std::string otherCookie;
   const json openClock{{"kind", "tap"}, {"id", "page1.group0.row1"}};
 };
