@@ -9,6 +9,7 @@ const operable = ['button', 'link', 'switch', 'slider', 'textbox', 'tab'];
 /** Group, role, name and description of all that can be operated on each page, in order. */
 const controls = {
   Quillmere: [
+    [null, 'switch', 'Quillmere', ''],
     ['Animations', 'link', 'Lotties', ''],
     ['Animations', 'link', 'Clock', ''],
     ['Animations', 'link', 'Quick Actions', ''],

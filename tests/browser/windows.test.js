@@ -65,6 +65,64 @@ scenario('what is being typed in one window is not written over by the other', {
       assert.equal((await screen.phone.stored()).clockDigitSize, '12.0'));
   });
 
+scenario('what lies over the pages lies over them in both windows', {}, async (screen) => {
+  const other = await another(screen);
+  const prompt = (page) => page.getByRole('alertdialog');
+  await screen.page.getByRole('switch').click();
+  await prompt(other).waitFor();
+  assert.equal(await other.getByRole('switch', { includeHidden: true }).getAttribute('aria-checked'),
+    'false');
+  await prompt(other).getByRole('button', { name: 'Cancel' }).click();
+  await prompt(screen.page).waitFor({ state: 'detached' });
+
+  await other.getByRole('button', { name: 'Write to Support' }).click();
+  const body = (page) => page.getByRole('textbox', { name: 'Message' });
+  await body(screen.page).waitFor();
+  await body(other).press('A');
+  await eventually(async () => assert.match(await body(screen.page).inputValue(), /^A\n/));
+  await other.keyboard.press('Escape');
+  await screen.page.getByRole('button', { name: 'Save Draft' }).click();
+  await body(other).waitFor({ state: 'detached' });
+});
+
+scenario('two windows show different parts of one list, and both see it change', {
+  animations: Array.from({ length: 500 }, (_, i) => `Wave ${i}`), values: "{'enabledLotties': []}",
+}, async (screen) => {
+  const other = await another(screen);
+  await screen.push('Lotties');
+  await eventually(async () => assert.equal(await title(other), 'Lotties'));
+  const rows = (page) => page.getByRole('list', { name: 'Disabled Lotties' }).getByRole('listitem');
+  await other.locator('.page:not([inert]) .content').evaluate((list) =>
+    (list.scrollTop = list.scrollHeight));
+  await eventually(async () =>
+    assert.equal(await rows(other).last().getAttribute('aria-posinset'), '500'));
+  assert.equal(await rows(screen.page).first().getAttribute('aria-posinset'), '1');
+
+  await rows(screen.page).first().getByRole('button').click();
+  await eventually(async () => {
+    assert.equal(await rows(other).last().getAttribute('aria-setsize'), '499');
+    assert.equal(await rows(screen.page).first().getAttribute('aria-setsize'), '499');
+  });
+  assert.ok(await rows(other).count() < 120 && await rows(screen.page).count() < 120);
+});
+
+scenario('both windows see the lock screen restart', {}, async (screen) => {
+  const other = await another(screen);
+  await screen.push('Clock');
+  await screen.pop('Quillmere');
+  await screen.page.getByRole('button', { name: 'Respring' }).click();
+  await other.getByRole('button', { name: 'Confirm' }).click();
+  for (const page of [screen.page, other]) {
+    await page.getByRole('dialog', { name: /Restarting/ }).waitFor();
+  }
+  for (const page of [screen.page, other]) {
+    await page.getByRole('dialog', { name: /Restarting/ }).waitFor({ state: 'detached' });
+    assert.equal(await title(page), 'Quillmere');
+  }
+  await other.getByRole('link', { name: 'Color' }).click();
+  await screen.isOnTop('Color');
+});
+
 scenario('closing one window leaves the other at work', {}, async (screen) => {
   const other = await another(screen);
   await other.close();
