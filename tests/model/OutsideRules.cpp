@@ -1,0 +1,139 @@
+#include <array>
+
+#include "tests/model/Operation.h"
+
+/// What somebody else does to the phone.
+namespace model {
+
+namespace {
+
+constexpr const char* garbage = "no property list";
+
+/// Values that the key's owner takes, next to some that it does not.
+Item switchItem(unsigned number) {
+  const std::array<Item, 8> items = {
+      true, false, 0LL, 2LL, 0.0, std::string("YES"), std::string("NO"), Names{"Rain"}};
+  return items[number % items.size()];
+}
+
+Item sliderItem(unsigned number) {
+  const std::array<Item, 6> items = {
+      static_cast<long long>(number % 400) - 200, 12.5, -300.0, true, std::string("far"), Names{}};
+  return items[number % items.size()];
+}
+
+Item segmentItem(unsigned number) {
+  const std::array<Item, 7> items = {1LL, 2LL, 3LL, true, 2.0, std::string("2"), Names{}};
+  return items[number % items.size()];
+}
+
+Item colorItem(unsigned number) {
+  const std::array<Item, 5> items = {std::string("80aabbcc"), std::string("AABBCC"),
+                                     std::string("none"), 5LL, Names{"f69240"}};
+  return items[number % items.size()];
+}
+
+Item listItem(unsigned number) {
+  const std::array<Item, 8> items = {Names{"Rain"},
+                                     Names{"Gone", "Rain", "Snow"},
+                                     Names{},
+                                     Names{"Rain", "Rain", "Wind", "Rain"},
+                                     Names{"Clock", "Caf\u00e9"},
+                                     std::string("Rain"),
+                                     7LL,
+                                     true};
+  return items[number % items.size()];
+}
+
+/// A key of those that the bundle knows, or another one.
+std::pair<std::string, Item> entry(unsigned first, unsigned second) {
+  constexpr std::array items = {&switchItem, &sliderItem, &segmentItem, &colorItem};
+  const auto rows = settings();
+  const std::size_t which = first % (rows.size() + 6);
+  if (which < rows.size()) {
+    return {rows[which].key, items[static_cast<std::size_t>(rows[which].control)](second)};
+  }
+  if (which == rows.size()) return {"enabledSwitch", switchItem(second)};
+  if (which == rows.size() + 1) return {"showedWelcomeVC", switchItem(second)};
+  if (which == rows.size() + 2) return {"foreign", colorItem(second)};
+  return {"enabledLotties", listItem(second)};
+}
+
+void put(World& world, const Items& items, plist::Form form) {
+  plist::Dictionary dictionary;
+  for (const auto& [key, item] : items) dictionary.set(key, valueOf(item));
+  world.phone.putFile(dictionary, form);
+  world.screen.store.replace(items, form);
+}
+
+plist::Form formOf(unsigned number) {
+  return number % 2 == 0 ? plist::Form::Xml : plist::Form::Binary;
+}
+
+std::string replaceFile(World& world, unsigned first, unsigned second) {
+  Items items;
+  std::mt19937 random(first);
+  for (unsigned count = second % 8; count > 0; --count) {
+    const auto which = static_cast<unsigned>(random() % 10000);
+    items.insert(entry(which, static_cast<unsigned>(random() % 10000)));
+  }
+  put(world, items, formOf(first));
+  return std::to_string(items.size());
+}
+
+std::string changeFile(World& world, unsigned first, unsigned second) {
+  Items items = world.screen.store.items;
+  const auto [key, item] = entry(first, second);
+  items[key] = item;
+  put(world, items, formOf(second / 16));
+  return key;
+}
+
+std::string removeFile(World& world, unsigned, unsigned) {
+  world.phone.removeFile();
+  world.screen.store.remove();
+  return "";
+}
+
+std::string spoilFile(World& world, unsigned, unsigned) {
+  world.phone.putFile(garbage);
+  world.screen.store.spoil();
+  return "";
+}
+
+std::string replaceAnimations(World& world, unsigned first, unsigned) {
+  constexpr std::array files = {"Clock.lottie", "Rain.lottie",    "Snow.lottie", "Wind.lottie/",
+                                "a.b.lottie",   "Rain.LOTTIE",    "notes.txt",   "Caf\u00e9.lottie",
+                                "Hail.lottie",  "Hail.lottie.bak"};
+  Names chosen;
+  for (std::size_t i = 0; i < files.size(); ++i) {
+    if ((first >> i) % 2 == 0) chosen.emplace_back(files[i]);
+  }
+  world.phone.putAnimations(chosen);
+  return std::to_string(chosen.size());
+}
+
+std::string renewSystem(World& world, unsigned first, unsigned) {
+  const bool isNew = first % 2 == 0;
+  world.phone.setDevice({std::nullopt, isNew ? "14.3" : "12.5", std::nullopt});
+  world.screen.hasWelcome = isNew;
+  return isNew ? "14.3" : "12.5";
+}
+
+bool always(const Screen&) { return true; }
+bool isReadable(const Screen& screen) { return screen.store.state == Store::State::Readable; }
+
+}  // namespace
+
+std::vector<Rule> outsideRules() {
+  return {
+      {"replace the file, keys:", 2, &always, &replaceFile},
+      {"change in the file", 6, &isReadable, &changeFile},
+      {"remove the file", 1, &always, &removeFile},
+      {"spoil the file", 1, &always, &spoilFile},
+      {"replace the animations, files:", 1, &always, &replaceAnimations},
+      {"renew the system to", 1, &always, &renewSystem},
+  };
+}
+
+}  // namespace model

@@ -1,0 +1,94 @@
+#include <algorithm>
+#include <array>
+#include <cstdio>
+
+#include "tests/model/Operation.h"
+
+/// Pages and their value rows.
+namespace model {
+
+namespace {
+
+using support::Driver;
+
+std::string openPage(World& world, unsigned first, unsigned) {
+  constexpr std::array pages = {"Clock", "Quick Actions", "Color"};
+  const std::string page = pages[first % pages.size()];
+  world.phone.tap(page);
+  world.screen.open(page);
+  return page;
+}
+
+std::string goBack(World& world, unsigned, unsigned) {
+  world.phone.back();
+  world.screen.back();
+  return "";
+}
+
+std::string toggle(World& world, const Setting& setting, unsigned number) {
+  const bool on = number % 2 == 0;
+  world.phone.toggle(setting.key, on);
+  world.screen.change(setting, on);
+  return on ? "on" : "off";
+}
+
+/// To a place between two stops, also past the slider's ends.
+std::string slide(World& world, const Setting& setting, unsigned number) {
+  const double stop =
+      setting.min - 10 + number % static_cast<unsigned>(setting.max - setting.min + 20);
+  const double place = stop + (number % 2 == 0 ? 0.25 : -0.25);
+  world.phone.slide(setting.key, place);
+  world.screen.change(setting, std::clamp(stop, setting.min, setting.max));
+  return std::to_string(place);
+}
+
+std::string select(World& world, const Setting& setting, unsigned number) {
+  const unsigned segment = number % 2;
+  world.phone.select(setting.key, segment);
+  world.screen.change(setting, static_cast<long long>(segment) + 1);
+  return std::to_string(segment);
+}
+
+/// Is stored with alpha in front, in upper case.
+std::string pick(World& world, const Setting& setting, unsigned number) {
+  std::array<char, 32> web{};
+  std::array<char, 32> stored{};
+  const unsigned alpha = number % 256;
+  std::snprintf(web.data(), web.size(), "#%06x%02x", number * 1663, alpha);
+  std::snprintf(stored.data(), stored.size(), "%02X%06X", alpha, number * 1663);
+  world.phone.pick(setting.key, web.data());
+  world.screen.change(setting, std::string(stored.data()));
+  return web.data();
+}
+
+bool hasRows(const Screen& screen) {
+  return !screen.isRestarting && !screen.isCovered() && !screen.shown.empty();
+}
+
+std::string changeRow(World& world, unsigned first, unsigned second) {
+  std::vector<const Setting*> rows;
+  for (const Setting& setting : settings()) {
+    if (setting.page == world.screen.page) rows.push_back(&setting);
+  }
+  const Setting& setting = *rows[first % rows.size()];
+  constexpr std::array hands = {&toggle, &slide, &select, &pick};
+  const auto hand = hands[static_cast<std::size_t>(setting.control)];
+  return std::string(setting.key) + " to " + hand(world, setting, second);
+}
+
+}  // namespace
+
+std::vector<Rule> pageRules() {
+  return {
+      {"open", 20, [](const Screen& screen) { return screen.isOn("") && !screen.isBlurred; },
+       &openPage},
+      {"go back", 8,
+       [](const Screen& screen) {
+         return !screen.isRestarting && !screen.isCovered() && !screen.page.empty();
+       },
+       &goBack},
+      {"change", 40, &hasRows, &changeRow},
+  };
+}
+
+}  // namespace model

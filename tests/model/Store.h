@@ -1,0 +1,64 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "plist/Document.h"
+
+namespace model {
+
+using Names = std::vector<std::string>;
+
+/// What a key can hold in these tests.
+using Item = std::variant<bool, long long, double, std::string, Names>;
+using Items = std::map<std::string, Item>;
+
+/// The same as a property list has it, and back; none for what no `Item` is. Reals are compared as
+/// numbers: XML knows one width of them.
+plist::Value valueOf(const Item& item);
+std::optional<Item> itemOf(const plist::Value& value);
+
+/// The preferences file as it should be, and what the service should keep beside it.
+struct Store {
+  enum class State { Missing, Unreadable, Readable };
+
+  /// What a page does to the file itself: nothing unless it can be read.
+  void writeThroughPage(const std::string& key, const Item& item);
+  /// What the animation list does to it: it also makes the file.
+  void writeThroughList(const std::string& key, const Item& item);
+
+  /// @name The service
+  /// @{
+  void set(const std::string& key, const Item& item);
+  void clear();
+  std::optional<Item> value(const std::string& key);
+  /// Brings what was kept beside the file into it, if that is possible.
+  void settle();
+  /// @}
+
+  /// What the file itself has for the key.
+  std::optional<Item> inFile(const std::string& key) const;
+
+  /// Somebody else removes the file, spoils it or replaces it.
+  void remove();
+  void spoil();
+  void replace(Items items, plist::Form itsForm);
+
+  bool keepsChanges() const { return cleared || !pending.empty(); }
+
+  State state = State::Missing;
+  plist::Form form = plist::Form::Binary;
+  Items items;
+
+  bool cleared = false;  ///< Kept beside the file: all keys were removed,
+  Items pending;         ///< and then these were set.
+
+ private:
+  void make();
+};
+
+}  // namespace model
