@@ -96,3 +96,17 @@ wired('the keyboard is back where it was once the connection is', async (screen,
   await screen.page.keyboard.press('ArrowRight');
   assert.deepEqual(await screen.stored(), { clockDigitsSpacing: '-19.0' });
 });
+
+wired('a prompt is still there once the connection is, and has the keyboard',
+  async (screen, wire) => {
+    const prompt = screen.page.getByRole('alertdialog');
+    await screen.page.getByRole('button', { name: 'Respring' }).click();
+    await prompt.waitFor();
+    wire.cut();
+    await says(screen, lost);
+    wire.mend();
+    await says(screen, '');
+    await screen.page.keyboard.press('Escape');
+    await prompt.waitFor({ state: 'detached' });
+    assert.equal(await screen.page.evaluate(() => document.activeElement.innerText), 'Respring');
+  });
