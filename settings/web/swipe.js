@@ -17,6 +17,7 @@ function follow(sheet, { clientY, pointerId }, dismissed) {
   const over = new AbortController();
   const on = (type, act) => sheet.addEventListener(type, act, { signal: over.signal });
   const drawn = (event) => Math.max(0, event.clientY - clientY);
+  sheet.classList.remove('springing');
   sheet.setPointerCapture(pointerId);
   on('pointermove', (event) => (sheet.style.translate = `0 ${drawn(event)}px`));
   on('pointercancel', () => comeUp(sheet, over));
@@ -31,5 +32,4 @@ function comeUp(sheet, over) {
   over.abort();
   sheet.classList.add('springing');
   sheet.style.translate = '';
-  sheet.addEventListener('transitionend', () => sheet.classList.remove('springing'), { once: true });
 }

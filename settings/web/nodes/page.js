@@ -42,7 +42,7 @@ function dress(view, { translucent, ...colors }) {
     view.element.style.setProperty(`--${part}`, color);
   }
   view.element.classList.toggle('translucent', Boolean(translucent));
-  document.querySelector('meta[name=theme-color]').content = colors.bar;
+  document.querySelector('meta[name=theme-color]').content = colors.bar ?? '';
 }
 
 /** Has an act done in the next frame, however often it is asked for before. */
