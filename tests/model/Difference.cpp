@@ -24,11 +24,11 @@ class Differences {
   std::ostringstream text_;
 };
 
-/// A file's form and what is in it.
+/// A file: its form and what is in it, as text.
 struct Content {
   Store::State state = Store::State::Missing;
   std::optional<plist::Form> form;
-  Items items;
+  std::map<std::string, std::string> items;
 };
 
 Content contentOf(const support::Driver& phone) {
@@ -38,7 +38,7 @@ Content contentOf(const support::Driver& phone) {
     const plist::Document document = plist::read(*bytes);
     Content content{Store::State::Readable, document.form, {}};
     for (const auto& entry : *document.root.dictionary()) {
-      content.items[std::string(entry.key())] = itemOf(entry.value()).value();
+      content.items[std::string(entry.key())] = textOf(entry.value());
     }
     return content;
   } catch (const plist::Unreadable&) {
@@ -46,12 +46,18 @@ Content contentOf(const support::Driver& phone) {
   }
 }
 
+std::map<std::string, std::string> textsOf(const Items& items) {
+  std::map<std::string, std::string> texts;
+  for (const auto& [key, item] : items) texts[key] = textOf(valueOf(item));
+  return texts;
+}
+
 void compareFile(World& world, Differences& differences) {
   const Store& store = world.screen.store;
   const Content content = contentOf(world.phone);
   differences.compare("state of the file", static_cast<int>(store.state),
                       static_cast<int>(content.state));
-  differences.compare("file", store.items, content.items);
+  differences.compare("file", textsOf(store.items), content.items);
   if (content.form && store.state == Store::State::Readable) {
     differences.compare("form of the file", static_cast<int>(store.form),
                         static_cast<int>(*content.form));
@@ -63,9 +69,11 @@ void compareService(World& world, std::size_t step, Differences& differences) {
   for (const Setting& setting : settings()) keys.emplace_back(setting.key);
   for (std::size_t i = 0; i < keys.size(); ++i) {
     if (world.screen.store.state == Store::State::Readable && i != step % keys.size()) continue;
-    const auto value = world.phone.serviceValue(keys[i]);
-    differences.compare("service's " + keys[i], world.screen.store.value(keys[i]),
-                        value ? itemOf(*value) : std::nullopt);
+    const auto expected = world.screen.store.value(keys[i]);
+    const auto actual = world.phone.serviceValue(keys[i]);
+    differences.compare<std::string>("service's " + keys[i],
+                                     expected ? textOf(valueOf(*expected)) : "nothing",
+                                     actual ? textOf(*actual) : "nothing");
   }
 }
 

@@ -67,7 +67,7 @@ bool hasEnabled(const Screen& screen) { return screen.isOn("Lotties") && !screen
 
 std::vector<Rule> listRules() {
   return {
-      {"open the list", 12,
+      {"open the list", 20,
        [](const Screen& screen) { return screen.isOn("") && !screen.isBlurred; }, &openList},
       {"insert row", 20, &hasDisabled, &insert},
       {"remove row", 14, &hasEnabled, &remove},

@@ -34,10 +34,11 @@ Item colorItem(unsigned number) {
 }
 
 Item listItem(unsigned number) {
-  const std::array<Item, 8> items = {Names{"Rain"},
+  const std::array<Item, 9> items = {Names{"Rain"},
                                      Names{"Gone", "Rain", "Snow"},
                                      Names{},
                                      Names{"Rain", "Rain", "Wind", "Rain"},
+                                     Names{"Snow", "Rain", "Snow"},
                                      Names{"Clock", "Caf\u00e9"},
                                      std::string("Rain"),
                                      7LL,
@@ -49,7 +50,7 @@ Item listItem(unsigned number) {
 std::pair<std::string, Item> entry(unsigned first, unsigned second) {
   constexpr std::array items = {&switchItem, &sliderItem, &segmentItem, &colorItem};
   const auto rows = settings();
-  const std::size_t which = first % (rows.size() + 6);
+  const std::size_t which = first % (rows.size() + 12);
   if (which < rows.size()) {
     return {rows[which].key, items[static_cast<std::size_t>(rows[which].control)](second)};
   }

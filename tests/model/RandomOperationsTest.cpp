@@ -2,6 +2,7 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <iostream>
+#include <set>
 #include <string_view>
 
 #include "tests/model/Run.h"
@@ -52,6 +53,12 @@ TEST_P(RandomOperations, LeaveThePhoneAsTheModelSays) {
            << run.failure << shortest(run.operations);
   }
   EXPECT_EQ(run.operations.size(), count);
+}
+
+TEST(RandomOperationsOfOneRun, AreOfEveryKind) {
+  std::set<std::size_t> kinds;
+  for (const model::Operation& each : model::runRandom(1, 2000).operations) kinds.insert(each.rule);
+  EXPECT_EQ(kinds.size(), model::rules().size());
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, RandomOperations, testing::ValuesIn(seeds()),

@@ -10,13 +10,10 @@ plist::Value arrayOf(const Names& names) {
   return plist::Value(array);
 }
 
-std::optional<Item> namesOf(const plist::Array& array) {
-  Names names;
-  for (const plist::Value& each : array) {
-    if (!each.string()) return std::nullopt;
-    names.emplace_back(*each.string());
-  }
-  return names;
+std::string textOf(const plist::Array& array) {
+  std::string text;
+  for (const plist::Value& each : array) text += (text.empty() ? "" : ", ") + model::textOf(each);
+  return '(' + text + ')';
 }
 
 }  // namespace
@@ -29,12 +26,12 @@ plist::Value valueOf(const Item& item) {
   return arrayOf(std::get<Names>(item));
 }
 
-std::optional<Item> itemOf(const plist::Value& value) {
-  if (const auto truth = value.boolean()) return *truth;
-  if (const auto integer = value.integer()) return static_cast<long long>(*integer);
-  if (const auto real = value.real()) return *real;
-  if (const auto text = value.string()) return std::string(*text);
-  return value.array() ? namesOf(*value.array()) : std::nullopt;
+std::string textOf(const plist::Value& value) {
+  if (const auto truth = value.boolean()) return *truth ? "YES" : "NO";
+  if (const auto integer = value.integer()) return std::to_string(*integer);
+  if (const auto real = value.real()) return "real " + std::to_string(*real);
+  if (const auto text = value.string()) return '"' + std::string(*text) + '"';
+  return value.array() ? textOf(*value.array()) : "something else";
 }
 
 void Store::make() {

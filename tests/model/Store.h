@@ -17,10 +17,11 @@ using Names = std::vector<std::string>;
 using Item = std::variant<bool, long long, double, std::string, Names>;
 using Items = std::map<std::string, Item>;
 
-/// The same as a property list has it, and back; none for what no `Item` is. Reals are compared as
-/// numbers: XML knows one width of them.
+/// The same as a property list has it.
 plist::Value valueOf(const Item& item);
-std::optional<Item> itemOf(const plist::Value& value);
+
+/// A value as text, which tells the types apart, but not the two widths of reals: XML knows one.
+std::string textOf(const plist::Value& value);
 
 /// The preferences file as it should be, and what the service should keep beside it.
 struct Store {
