@@ -25,7 +25,7 @@ class ActionCellTest : public PageTest {
   std::vector<std::string> titles() const {
     std::vector<std::string> titles;
     for (const auto& each : navigation.pages()) {
-      titles.push_back(desktop::stateOf(*each.controller).title);
+      titles.push_back(desktop::titleOf(*each.controller));
     }
     return titles;
   }

@@ -45,7 +45,7 @@ class ListResourceTest : public PageTest {
 
 TEST_F(ListResourceTest, GivesThePageItsTitle) {
   show("");
-  EXPECT_EQ(desktop::stateOf(page()).title, "Title");
+  EXPECT_EQ(desktop::titleOf(page()), "Title");
   EXPECT_EQ(sections.size(), 0U);
 }
 
