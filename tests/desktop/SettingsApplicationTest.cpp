@@ -3,8 +3,8 @@
 #include "desktop/Exception.h"
 #include "desktop/SettingsApplication.h"
 #include "desktop/UIKit/ControllerState.h"
+#include "tests/desktop/AddonTest.h"
 #include "tests/desktop/BadFiles.h"
-#include "tests/desktop/PhoneTest.h"
 
 namespace desktop_tests {
 namespace {
@@ -12,28 +12,13 @@ namespace {
 namespace fs = std::filesystem;
 using desktop::SettingsApplication;
 
-class SettingsApplicationTest : public PhoneTest {
+class SettingsApplicationTest : public AddonTest {
  protected:
-  SettingsApplicationTest() {
-    fs::create_directories(loader);
-    fs::create_directories(bundle);
-    writeBytes(loader / "Addon.plist", entryFor("Addon"));
-    writeBytes(bundle / "Info.plist", infoWith("TestPage"));
-  }
   ~SettingsApplicationTest() override {
     std::error_code ignored;
     for (const char* name : {"Addon.plist", "Bad.plist"}) {
       fs::permissions(loader / name, fs::perms::owner_all, ignored);
     }
-  }
-
-  static std::string entryFor(const std::string& label) {
-    return "<plist><dict><key>entry</key><dict><key>label</key><string>" + label +
-           "</string><key>bundle</key><string>Addon</string></dict></dict></plist>";
-  }
-  static std::string infoWith(const std::string& principalClass) {
-    return "<plist><dict><key>NSPrincipalClass</key><string>" + principalClass +
-           "</string></dict></plist>";
   }
 
   /// Why the application does not start; empty when it does.
@@ -45,17 +30,14 @@ class SettingsApplicationTest : public PhoneTest {
       return reason.what();
     }
   }
-
-  const fs::path loader = host("/Library/PreferenceLoader/Preferences");
-  const fs::path bundle = host("/Library/PreferenceBundles/Addon.bundle");
 };
 
 TEST_F(SettingsApplicationTest, OpensThePrincipalPageUnderTheEntrysLabel) {
   SettingsApplication application("Addon");
   ASSERT_EQ(application.navigation.pages().size(), 1U);
-  const auto& state = desktop::stateOf(*application.navigation.top().controller);
-  EXPECT_EQ(state.title, "Addon");
-  EXPECT_EQ(state.className, "TestPage");
+  const auto& controller = *application.navigation.top().controller;
+  EXPECT_EQ(desktop::titleOf(controller), "Addon");
+  EXPECT_EQ(desktop::stateOf(controller).className, "TestPage");
 }
 
 TEST_F(SettingsApplicationTest, FindsItsEntryAmongOthers) {
