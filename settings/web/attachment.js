@@ -4,9 +4,11 @@ const units = ['bytes', 'KB', 'MB', 'GB'];
 
 /** A row that opens an attachment in a tab of its own. */
 export function attachment({ name, size, address }) {
+  const parts = Object.entries({ name, size: humanSize(size) })
+    .map(([part, text]) => element('span', { class: part }, text));
   return element('li', {}, element('a', {
     class: 'attachment', href: address, target: '_blank', rel: 'noopener noreferrer',
-  }, element('span', { class: 'name' }, name), element('span', { class: 'size' }, humanSize(size))));
+  }, ...parts));
 }
 
 /** A number of bytes in the unit that suits it. */

@@ -84,7 +84,8 @@ scenario('the list stays scrolled where it was when a row moves to the other sec
     const row = section('Disabled').getByRole('listitem').nth(40);
     const name = await row.locator('.label').innerText();
     await row.getByRole('button').click();
-    await eventually(async () => assert.equal((await screen.stored()).enabledLotties, `['${name}']`));
+    await eventually(async () =>
+      assert.equal((await screen.stored()).enabledLotties, `['${name}']`));
     await eventually(() => expectFilled(screen));
     assert.equal(await scrolled(), 44000);
   });

@@ -27,7 +27,8 @@ scenario('the composer opens filled in, with the keyboard on the empty lines',
 
 scenario('the attachment is what dpkg lists, and opens in a tab of its own', {},
   async (screen) => {
-    const list = execFileSync('dpkg', ['-l'], { encoding: 'utf8', env: { PATH: process.env.PATH } });
+    const { PATH } = process.env;
+    const list = execFileSync('dpkg', ['-l'], { encoding: 'utf8', env: { PATH } });
     await write(screen);
     const attachment = sheet(screen).getByRole('link', { name: 'dpkgl.txt' });
     assert.equal(await attachment.getAttribute('rel'), 'noopener noreferrer');

@@ -70,8 +70,8 @@ scenario('what lies over the pages lies over them in both windows', {}, async (s
   const prompt = (page) => page.getByRole('alertdialog');
   await screen.page.getByRole('switch').click();
   await prompt(other).waitFor();
-  assert.equal(await other.getByRole('switch', { includeHidden: true }).getAttribute('aria-checked'),
-    'false');
+  const toggle = other.getByRole('switch', { includeHidden: true });
+  assert.equal(await toggle.getAttribute('aria-checked'), 'false');
   await prompt(other).getByRole('button', { name: 'Cancel' }).click();
   await prompt(screen.page).waitFor({ state: 'detached' });
 
@@ -91,7 +91,8 @@ scenario('two windows show different parts of one list, and both see it change',
   const other = await another(screen);
   await screen.push('Lotties');
   await eventually(async () => assert.equal(await title(other), 'Lotties'));
-  const rows = (page) => page.getByRole('list', { name: 'Disabled Lotties' }).getByRole('listitem');
+  const rows = (page) =>
+    page.getByRole('list', { name: 'Disabled Lotties' }).getByRole('listitem');
   await other.locator('.page:not([inert]) .content').evaluate((list) =>
     (list.scrollTop = list.scrollHeight));
   await eventually(async () =>

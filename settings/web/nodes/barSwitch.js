@@ -7,7 +7,9 @@ export function create(_, context) {
   const track = element('span', { class: 'track' }, element('span', { class: 'knob' }));
   const control = element('button', { type: 'button', class: 'bar-switch', role: 'switch' }, track);
   const view = { element: control, on: false };
-  control.addEventListener('pointerdown', (event) => event.button === 0 && follow(view, context, event));
+  control.addEventListener('pointerdown', (event) => {
+    if (event.button === 0) follow(view, context, event);
+  });
   control.addEventListener('click', (event) => {
     // What a finger did has been told when it was lifted; this is a key, or a screen reader.
     if (event.detail === 0) tell(view, context, !view.on, true);

@@ -18,5 +18,6 @@ function column({ name, detail, url, image }) {
   ];
   const isWeb = /^https?:/.test(url ?? '');
   const attributes = isWeb ? { href: url, target: '_blank', rel: 'noopener noreferrer' } : {};
-  return element('li', {}, element(isWeb ? 'a' : 'div', { class: 'person', ...attributes }, ...lines));
+  const person = element(isWeb ? 'a' : 'div', { class: 'person', ...attributes }, ...lines);
+  return element('li', {}, person);
 }

@@ -8,9 +8,11 @@ export function create(node, context) {
   const title = element('h2', { id: `${context.id}-title` });
   const cancel = element('button', { type: 'button', class: 'item' }, 'Cancel');
   const send = element('button', { type: 'button', class: 'item strong' }, 'Send');
+  const line = (mode) =>
+    element('input', { type: 'text', inputmode: mode, autocomplete: 'off' });
   const fields = {
-    to: new Field(element('input', { type: 'text', inputmode: 'email', autocomplete: 'off' }), 'To:'),
-    subject: new Field(element('input', { type: 'text', autocomplete: 'off' }), 'Subject:'),
+    to: new Field(line('email'), 'To:'),
+    subject: new Field(line('text'), 'Subject:'),
     body: new Field(element('textarea', { 'aria-label': 'Message' })),
   };
   const attachments = element('ul', { class: 'attachments', 'aria-label': 'Attachments' });

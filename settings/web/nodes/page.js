@@ -54,7 +54,7 @@ function eachFrame(act) {
   }));
 }
 
-/** Follows what comes into view. A page that is gone, or that something lies over, tells nothing. */
+/** Follows what comes into view. A page that is gone, or lies below something, tells nothing. */
 function watch(view, context) {
   const { element: page, content } = view;
   const isLive = () => page.isConnected && !page.closest('[inert]');
