@@ -59,7 +59,8 @@ export class Keyboard {
   }
 
   #cellAt(section, row) {
-    return this.#table.querySelector(`.cell[data-section="${section}"][data-row="${row}"]`);
+    const place = `[data-section="${section}"][data-row="${row}"]`;
+    return this.#table.querySelector(`.cell${place}:not(.carried)`);
   }
 
   #buttonAt({ section, row, part }) {
