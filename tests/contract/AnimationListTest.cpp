@@ -81,6 +81,13 @@ TEST_F(AnimationList, ShowsTwoSectionsAlsoWhenBothAreEmpty) {
               ElementsAre(ListSection{"Enabled Lotties", {}}, ListSection{"Disabled Lotties", {}}));
 }
 
+TEST_F(AnimationList, RowsAreThereToBeEditedAndNotToBeTapped) {
+  open({}, {"Snow"});
+  EXPECT_THROW(phone.tap("Snow"), std::runtime_error);
+  EXPECT_THAT(phone.titles(), ElementsAre("Quillmere", "Lotties"));
+  EXPECT_THAT(phone.journal(), IsEmpty());
+}
+
 TEST_F(AnimationList, AnswersForEnabledRows) {
   open({"Rain.lottie"}, {"Snow", "Wind"});
   const ListAnswers expected{2, "Enabled Lotties", 2, true, true, deletion, false};
