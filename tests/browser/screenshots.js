@@ -56,7 +56,6 @@ const ways = {
 
 /** The pictures that are shown side by side. */
 const strip = ['welcome', 'root', 'list', 'clock', 'picker', 'prompt', 'mail'];
-const first = ['root', 'clock'];
 
 /** Takes one picture of a phone. */
 async function take(browser, name, colorScheme) {
@@ -108,9 +107,7 @@ try {
   for (const name of Object.keys(ways)) {
     pictures[name] = await Promise.all(schemes.map((scheme) => take(browser, name, scheme)));
   }
-  const [light, dark] = [0, 1].map((scheme) => (name) => pictures[name][scheme]);
-  await compose(browser, strip.map(light), join(folder, 'strip.png'));
-  await compose(browser, [...first.map(light), ...first.map(dark)], join(folder, 'screenshot.png'));
+  await compose(browser, strip.map((name) => pictures[name][0]), join(folder, 'strip.png'));
 } finally {
   await browser.close();
 }
