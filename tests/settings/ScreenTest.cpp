@@ -10,7 +10,7 @@ using nlohmann::json;
 class ScreenTest : public PhoneScreenTest {
  protected:
   /// Opens that page of the first page and gives its tree.
-  settings::Tree open(const char* row) {
+  settings::Tree opened(const char* row) {
     tap(row);
     return tree();
   }
@@ -20,9 +20,10 @@ class ScreenTest : public PhoneScreenTest {
 
 TEST_F(ScreenTest, ShowsTheQuickActionsPageExactly) {
   const settings::Tree expected = parsed(R"({
-    "window": {"kind": "window", "children": ["page1", "page2"]},
+    "window": {"kind": "window", "children": ["page1", "page2"], "overlay": null},
     "page1": {"kind": "page", "title": "Quillmere"},
-    "page2": {"kind": "page", "title": "Quick Actions", "back": "page2.back",
+    "page2": {"kind": "page", "title": "Quick Actions", "back": "page2.back", "titleView": null,
+      "trailing": null, "header": null, "covers": [], "scrolls": false,
       "style": {"translucent": true, "tint": "#f69240ff", "bar": "#f69240ff", "barText": "#ffffffff",
                 "barTint": "#ffffffff", "text": "#f69240ff", "separator": "#00000000"},
       "children": ["page2.group0", "page2.group1", "page2.group2"]},
@@ -44,7 +45,7 @@ TEST_F(ScreenTest, ShowsTheQuickActionsPageExactly) {
       "value": 75.0, "min": 1.0, "max": 200.0, "step": 1.0, "showValue": true}
   })")
                                       .get<settings::Tree>();
-  EXPECT_EQ(json(open(quickActionsRow)), json(expected));
+  EXPECT_EQ(json(opened(quickActionsRow)), json(expected));
 }
 
 TEST_F(ScreenTest, ShowsTheFirstPageWithoutABackButton) {
@@ -68,12 +69,12 @@ TEST_F(ScreenTest, ShowsTheCredits) {
     "kind": "credits", "label": "", "height": 120.0, "tint": "#f69240ff", "people": [
       {"name": "orvalen", "detail": "Twitter", "url": "https://twitter.com/orvalen"},
       {"name": "orvalen", "detail": "Reddit", "url": "https://www.reddit.com/user/orvalen"},
-      {"name": "Orvalen Design", "detail": "Designer",
+      {"name": "Orvalen Design", "detail": "Designer", "image": "/bundle/Designer@3x.png",
        "url": "https://twitter.com/orvalendesign"}]})"));
 }
 
 TEST_F(ScreenTest, ShowsTheColorPage) {
-  const settings::Tree page = open(colorRow);
+  const settings::Tree page = opened(colorRow);
   EXPECT_EQ(page.at("page2.group0.row0"), parsed(R"({"kind": "segment", "label": "Color Mode",
     "key": "colorMode", "titles": ["Default", "Custom Color"], "selected": 0})"));
   EXPECT_EQ(page.at("page2.group1.row0"), parsed(R"({"kind": "color", "label": "Custom Color",
@@ -81,7 +82,7 @@ TEST_F(ScreenTest, ShowsTheColorPage) {
 }
 
 TEST_F(ScreenTest, ShowsTheBoundsOfTheClockPage) {
-  const settings::Tree page = open(clockRow);
+  const settings::Tree page = opened(clockRow);
   EXPECT_EQ(page.at("page2")["children"].size(), 6U);
   EXPECT_EQ(page.at("page2.group4.row0"), parsed(R"({"kind": "slider", "label": "Digits Spacing",
     "key": "clockDigitsSpacing", "value": -20.0, "min": -100.0, "max": 100.0, "step": 1.0,
@@ -92,37 +93,46 @@ TEST_F(ScreenTest, ShowsNoSegmentForAnUnknownStoredValue) {
   plist::Dictionary odd;
   odd.set("colorMode", plist::Value::string("odd"));
   phone.folder.replace(preferences, plist::writeBinary(plist::Value(odd)));
-  EXPECT_EQ(open(colorRow).at("page2.group0.row0")["selected"], -1);
+  EXPECT_EQ(opened(colorRow).at("page2.group0.row0")["selected"], -1);
 }
 
 TEST_F(ScreenTest, ShowsALineOfTextWhereTheCellsLibraryIsMissing) {
   phone.missingClasses.insert("OrvalenTripleCell");
-  application.reset();
-  application = std::make_unique<desktop::SettingsApplication>("Quillmere");
-  EXPECT_EQ(tree().at("page1.group4.row0")["kind"], "text");
+  open();
+  EXPECT_EQ(tree().at("page2.group4.row0")["kind"], "text");
 }
 
-TEST_F(ScreenTest, EveryChildIsInTheTreeAndEveryNodeHasAParent) {
-  for (const char* row : {clockRow, quickActionsRow, colorRow}) {
-    tap(row);
+/// What a node names besides its children.
+std::set<std::string> namedBy(const json& node) {
+  std::set<std::string> named;
+  for (const char* property : {"back", "titleView", "trailing", "header", "overlay"}) {
+    if (node.contains(property) && node[property].is_string()) named.insert(node[property]);
+  }
+  for (const char* property : {"children", "covers"}) {
+    for (const auto& id : node.value(property, json::array())) named.insert(id);
+  }
+  return named;
+}
+
+TEST_F(ScreenTest, EveryNodeIsNamedOnceAndEveryNamedOneIsThere) {
+  for (const char* row : {"", lottiesRow, clockRow, quickActionsRow, colorRow}) {
+    if (*row) tap(row);
     const settings::Tree page = tree();
-    std::set<std::string> named{"window"};
+    std::multiset<std::string> named{"window"};
+    std::multiset<std::string> there;
     for (const auto& [id, node] : page) {
-      for (const auto& child : node.value("children", json::array())) {
-        EXPECT_TRUE(named.insert(child.get<std::string>()).second) << child << " stands twice";
-      }
-      if (node.contains("back") && !node["back"].is_null()) named.insert(node["back"]);
+      there.insert(id);
+      named.merge(namedBy(node));
     }
-    for (const auto& [id, node] : page) EXPECT_TRUE(named.erase(id) == 1) << id;
-    EXPECT_TRUE(named.empty()) << *named.begin();
-    tap("page" + std::to_string(application->navigation.top().number) + ".back");
+    EXPECT_EQ(named, there);
+    if (*row) tap(page.at(page.at("window")["children"].back())["back"]);
   }
 }
 
 TEST_F(ScreenTest, ABrokenListResourceLeavesAnEmptyPageAndAReport) {
   phone.folder.replace("/Library/PreferenceBundles/Quillmere.bundle/Root.plist", "broken");
-  application = std::make_unique<desktop::SettingsApplication>("Quillmere");
-  EXPECT_EQ(tree().at("page1")["children"], json::array());
+  open();
+  EXPECT_EQ(tree().at("page2")["children"], json::array());
   ASSERT_FALSE(reports.empty());
   EXPECT_NE(reports[0].find("Root.plist cannot be read"), std::string::npos);
 }

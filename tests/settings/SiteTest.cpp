@@ -16,9 +16,12 @@ using http::verb;
 class SiteTest : public testing::Test {
  protected:
   settings::Response ask(verb method, const std::string& target) const {
-    return settings::answer(access, request(method, target, {{"Host", host}, {"Cookie", cookie}}));
+    return answer(request(method, target, {{"Host", host}, {"Cookie", cookie}}));
   }
   settings::Response ask(const std::string& target) const { return ask(verb::get, target); }
+  settings::Response answer(const settings::Request& asked) const {
+    return settings::answer(access, asked, [](std::string_view) { return std::nullopt; });
+  }
 
   const settings::Access access{port};
   const std::string cookie = cookiePair(access);
@@ -96,7 +99,7 @@ TEST_F(SiteTest, FindsNothingElse) {
 }
 
 TEST_F(SiteTest, TurnsAnInvitationIntoACookie) {
-  const auto response = settings::answer(access, get(invitationTarget(access), {{"Host", host}}));
+  const auto response = answer(get(invitationTarget(access), {{"Host", host}}));
   EXPECT_EQ(response.result(), status::see_other);
   EXPECT_EQ(field(response, "Location"), "/");
   EXPECT_EQ(field(response, "Set-Cookie"), access.cookie());
@@ -106,8 +109,7 @@ TEST_F(SiteTest, TurnsAnInvitationIntoACookie) {
 
 TEST_F(SiteTest, GivesTheCookieToInvitationsOnly) {
   EXPECT_EQ(ask("/").count(http::field::set_cookie), 0U);
-  const auto posted =
-      settings::answer(access, request(verb::post, invitationTarget(access), {{"Host", host}}));
+  const auto posted = answer(request(verb::post, invitationTarget(access), {{"Host", host}}));
   EXPECT_EQ(posted.result(), status::method_not_allowed);
   EXPECT_EQ(posted.count(http::field::set_cookie), 0U);
 }
@@ -115,7 +117,7 @@ TEST_F(SiteTest, GivesTheCookieToInvitationsOnly) {
 TEST_F(SiteTest, SaysNothingOfItsFilesToStrangers) {
   for (const char* target : {"/", "/app.js", "/missing"}) {
     for (const verb method : {verb::get, verb::post}) {
-      const auto response = settings::answer(access, request(method, target, {{"Host", host}}));
+      const auto response = answer(request(method, target, {{"Host", host}}));
       EXPECT_EQ(response.result(), status::forbidden) << target;
       EXPECT_EQ(response.count(http::field::set_cookie), 0U);
       expectCommonFields(response);
@@ -125,9 +127,9 @@ TEST_F(SiteTest, SaysNothingOfItsFilesToStrangers) {
 
 TEST_F(SiteTest, KeepsTheConnectionAsTheRequestWantsIt) {
   auto page = get("/", {{"Host", host}, {"Cookie", cookie}});
-  EXPECT_TRUE(settings::answer(access, page).keep_alive());
+  EXPECT_TRUE(answer(page).keep_alive());
   page.keep_alive(false);
-  EXPECT_FALSE(settings::answer(access, page).keep_alive());
+  EXPECT_FALSE(answer(page).keep_alive());
 }
 
 }  // namespace
