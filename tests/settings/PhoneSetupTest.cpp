@@ -67,7 +67,6 @@ TEST_F(PhoneSetupTest, GivesANewFolderTheSamples) {
   ASSERT_FALSE(settings::sampleFiles().empty());
   for (const settings::Asset& sample : settings::sampleFiles()) {
     EXPECT_EQ(bytesOf(host(sample.path)), sample.bytes) << sample.path;
-    // Animations are ZIP archives; the rest is what the phone says of itself.
     const bool isAnimation = sample.path.ends_with(".lottie");
     EXPECT_TRUE(sample.bytes.starts_with(isAnimation ? "PK" : "<?xml")) << sample.path;
   }
