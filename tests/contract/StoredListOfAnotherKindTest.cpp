@@ -14,6 +14,8 @@ struct Kind {
   std::vector<std::string> shown;
 };
 
+void PrintTo(const Kind& kind, std::ostream* out) { *out << kind.name; }
+
 plist::Value mixed(std::initializer_list<plist::Value> values) {
   plist::Array array;
   for (const plist::Value& value : values) array.append(value);
