@@ -91,7 +91,7 @@ std::vector<char*> pointersTo(std::vector<std::string>& texts) {
   return pointers;
 }
 
-Descriptor start(const Process::Command& command) {
+pid_t start(const Process::Command& command) {
   // Libraries open files as well, and not all of them keep theirs from other programs.
   if (close_range(STDERR_FILENO + 1, ~0U, CLOSE_RANGE_CLOEXEC) < 0) check(errno, "close_range");
   FileActions actions;
@@ -111,22 +111,16 @@ Descriptor start(const Process::Command& command) {
   check(posix_spawn(&pid, command.program.c_str(), actions.get(), PlainSignals().get(),
                     pointersTo(words).data(), pointersTo(environment).data()),
         command.program);
-  // The child is not collected yet, so its number cannot have become another's.
-  const auto handle = static_cast<int>(syscall(SYS_pidfd_open, pid, 0));
-  if (handle < 0) {
-    const int error = errno;
-    waitpid(pid, nullptr, 0);
-    check(error, command.program);
-  }
-  return Descriptor(handle);
+  return pid;
 }
 
 /// The exit status of a program that has ended, which leaves no trace of it; none while it runs.
-std::optional<int> collect(const Descriptor& handle, int options) {
+/// Until then its number cannot become another's.
+std::optional<int> collect(pid_t pid, int options) {
   siginfo_t ended{};
   int result;
   do {
-    result = waitid(P_PIDFD, static_cast<id_t>(handle.number()), &ended, WEXITED | options);
+    result = waitid(P_PID, static_cast<id_t>(pid), &ended, WEXITED | options);
   } while (result < 0 && errno == EINTR);
   if (result < 0) return EXIT_FAILURE;  // Somebody else collected it: what it said is lost.
   if (ended.si_pid == 0) return std::nullopt;
@@ -134,31 +128,44 @@ std::optional<int> collect(const Descriptor& handle, int options) {
 }
 
 /// The programs that nobody waits for any more.
-std::vector<Descriptor> runningOn;
+std::vector<pid_t> runningOn;
 
 void collectThoseThatEnded() {
-  std::erase_if(runningOn, [](const Descriptor& handle) { return collect(handle, WNOHANG); });
+  std::erase_if(runningOn, [](pid_t pid) { return collect(pid, WNOHANG); });
+}
+
+/// Leaves the program to run on when it cannot be watched: it may take as long as it likes.
+Descriptor watch(pid_t pid) {
+  Descriptor handle(static_cast<int>(syscall(SYS_pidfd_open, pid, 0)));
+  if (handle.number() < 0) {
+    const int error = errno;
+    runningOn.push_back(pid);
+    check(error, "it runs, but cannot be watched");
+  }
+  return handle;
 }
 
 }  // namespace
 
-Process::Process(const Command& command) : handle_(start(command)) { collectThoseThatEnded(); }
+Process::Process(const Command& command) : pid_(start(command)), handle_(watch(pid_)) {
+  collectThoseThatEnded();
+}
 
 Process::~Process() {
   if (handle_.number() < 0 || status_) return;
   pollfd end{handle_.number(), POLLIN, 0};
   poll(&end, 1, lastMoment);
-  runningOn.push_back(std::move(handle_));
+  runningOn.push_back(pid_);
   collectThoseThatEnded();
 }
 
 std::optional<int> Process::status() {
-  if (!status_) status_ = collect(handle_, WNOHANG);
+  if (!status_) status_ = collect(pid_, WNOHANG);
   return status_;
 }
 
 int Process::wait() {
-  if (!status_) status_ = collect(handle_, 0);
+  if (!status_) status_ = collect(pid_, 0);
   return *status_;
 }
 

@@ -29,14 +29,15 @@ class Process {
     std::vector<std::string> environment;
   };
 
-  /// Starts it. Throws `std::system_error` when that cannot be done.
+  /// Starts it. Throws `std::system_error` when that cannot be done, and when it runs but its end
+  /// could not be told; it is then collected later.
   explicit Process(const Command& command);
   Process(Process&&) noexcept = default;
 
   /// Does not end the program: one that runs on is collected later, once it has ended.
   ~Process();
 
-  /// Becomes readable when the program has ended (pidfd_open(2)).
+  /// Becomes readable when the program has ended (pidfd_open(2)); closed with this object.
   int pidfd() const { return handle_.number(); }
 
   /// The program's exit status, or 128 and the number of the signal that ended it; none while it
@@ -47,6 +48,7 @@ class Process {
   int wait();
 
  private:
+  pid_t pid_;
   Descriptor handle_;
   std::optional<int> status_;
 };

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <poll.h>
 #include <sys/mman.h>
+#include <sys/resource.h>
 #include <system_error>
 
 #include "desktop/Process.h"
@@ -149,6 +150,25 @@ TEST_F(ProcessTest, IsCollectedLaterWhenItRunsOn) {
   { const Process process(command); }
   EXPECT_TRUE(hasChildren());
   writing = Descriptor(-1);  // Now it ends.
+  siginfo_t ended{};
+  ASSERT_EQ(waitid(P_ALL, 0, &ended, WEXITED | WNOWAIT), 0);
+  command.arguments = {"-c", "exit 0"};
+  Process(command).wait();
+}
+
+TEST_F(ProcessTest, ThatCannotBeWatchedThrowsAtOnceAndIsCollectedLater) {
+  Process::Command command = shell("read line");
+  command.input = reading.number();
+  command.output = STDOUT_FILENO;
+  rlimit before{};
+  ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &before), 0);
+  const int lowestFree = Descriptor(dup(STDIN_FILENO)).number();
+  const rlimit none{static_cast<rlim_t>(lowestFree), before.rlim_max};
+  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
+  EXPECT_THROW(const Process process(command), std::system_error);
+  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &before), 0);
+  EXPECT_TRUE(hasChildren());  // It reads still.
+  writing = Descriptor(-1);
   siginfo_t ended{};
   ASSERT_EQ(waitid(P_ALL, 0, &ended, WEXITED | WNOWAIT), 0);
   command.arguments = {"-c", "exit 0"};
