@@ -12,6 +12,7 @@
 #include <poll.h>
 #include <pty.h>
 #include <stdexcept>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -27,6 +28,11 @@ constexpr uid_t nobody = 65534;
 void becomeNobody() {
   if (getuid() != 0) return;
   if (setgroups(0, nullptr) != 0 || setgid(nobody) != 0 || setuid(nobody) != 0) _exit(126);
+}
+
+void limitOpenFiles(unsigned count) {
+  const rlimit limit{count, count};
+  if (setrlimit(RLIMIT_NOFILE, &limit) != 0) _exit(126);
 }
 
 void setEnvironment(const Start& start) {
@@ -45,6 +51,7 @@ void setEnvironment(const Start& start) {
   dup2(pipes[1][1], STDERR_FILENO);
   if (start.output == Start::Output::Closed) close(STDOUT_FILENO);
   setEnvironment(start);
+  if (start.openFiles) limitOpenFiles(*start.openFiles);
   if (start.unprivileged) becomeNobody();
   std::vector<char*> arguments{const_cast<char*>("quillmere-settings")};
   for (const std::string& each : start.arguments)

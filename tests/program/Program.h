@@ -16,6 +16,8 @@ struct Start {
   std::map<std::string, std::optional<std::string>> environment{};
   /// Whether root becomes nobody first, so that file modes count.
   bool unprivileged = false;
+  /// How many files may be open at once; none leaves it as it is.
+  std::optional<unsigned> openFiles{};
   /// What is typed on the terminal that standard input and standard error then are. Without one,
   /// nothing can be read.
   std::optional<std::string> typed{};
