@@ -4,8 +4,10 @@ const root = 'window';
 
 /**
  * What a kind of node hands back from `create`: its element, and for a control how to tie the
- * group's footer to it.
- * @typedef {{element: HTMLElement, describe?: function(HTMLElement?): void}} View
+ * group's footer to it; where it matters, what to do when what was touched is not accepted: the
+ * program says why, and nothing when the connection was lost meanwhile.
+ * @typedef {{element: HTMLElement, describe?: function(HTMLElement?): void,
+ *     refused?: function(string=): void}} View
  */
 
 /** Keeps the elements of the page in step with the nodes that were sent. */
@@ -28,6 +30,7 @@ export class Tree {
   /** @param {{kind: string, nodes?: Object, removed?: string[], reason?: string}} message */
   receive({ kind, nodes = {}, removed = [], reason }) {
     if (kind === 'refused') console.warn(`Touch refused: ${reason}`);
+    if (kind !== 'update') for (const view of this.#views.values()) view.refused?.(reason);
     if (kind === 'screen') removed = [...this.#nodes.keys()].filter((id) => !(id in nodes));
     for (const [id, node] of Object.entries(nodes)) this.#nodes.set(id, node);
     for (const id of removed) this.#forget(id);
