@@ -23,8 +23,10 @@ export class Keyboard {
   keep(change) {
     const held = document.activeElement;
     const isHere = held !== this.#table && this.#table.contains(held);
+    const moving = this.#moving;
+    this.#moving = null;
     change();
-    if (isHere) this.#restore();
+    if (isHere) this.#restore(moving);
   }
 
   #hear(event, move) {
@@ -40,8 +42,8 @@ export class Keyboard {
   }
 
   /** The keyboard stays at its position, whichever row is there now, unless it moved one. */
-  #restore() {
-    const moved = this.#takeMoved();
+  #restore(moving) {
+    const moved = moving && this.#moved(moving);
     const target = moved?.querySelector('.grip') ?? this.#buttonAt(this.#spot) ?? this.#table;
     if (target !== document.activeElement) target.focus({ preventScroll: true });
     this.#spot = spotOf(target);
@@ -51,11 +53,9 @@ export class Keyboard {
   }
 
   /** The row that was moved, if it came to where it was to go. */
-  #takeMoved() {
-    const moving = this.#moving;
-    this.#moving = null;
-    const cell = moving && this.#cellAt(this.#spot.section, moving.row);
-    return cell && labelOf(cell) === moving.label ? cell : null;
+  #moved({ label, row }) {
+    const cell = this.#cellAt(this.#spot.section, row);
+    return cell && labelOf(cell) === label ? cell : null;
   }
 
   #cellAt(section, row) {
