@@ -71,6 +71,59 @@ scenario('a row that is dropped over the other section snaps back', five, async 
   assert.deepEqual(screen.phone.bytes(), before);
 });
 
+/** The rows stand as they did, and nobody was told anything. */
+async function expectUntouched(screen, sent) {
+  const rows = list(screen).section('Enabled').locator('.cell');
+  await eventually(async () => assert.deepEqual(await rows.evaluateAll((all) => all.map((at) =>
+    [at.innerText.trim(), at.offsetTop, getComputedStyle(at).translate,
+     getComputedStyle(at).visibility])), [
+    ['Aurora', 0, 'none', 'visible'], ['Breeze', 44, 'none', 'visible'],
+    ['Comet', 88, 'none', 'visible']]));
+  await screen.answered();
+  assert.equal(screen.touches.length, sent);
+}
+
+scenario('Escape puts a row back that is dragged with the mouse', five, async (screen) => {
+  await screen.push('Lotties');
+  const sent = screen.touches.length;
+  await take(screen, 'Aurora', rowHeight);
+  await screen.page.keyboard.press('Escape');
+  await expectUntouched(screen, sent);
+  await screen.page.mouse.up();
+  await expectUntouched(screen, sent);
+  await take(screen, 'Aurora', rowHeight);
+  await screen.page.mouse.up();
+  await expectOrder(screen, 'Breeze', 'Aurora', 'Comet');
+});
+
+scenario('a row is put back when the finger is taken from the page',
+  { ...five, look: { hasTouch: true } }, async (screen) => {
+    await screen.push('Lotties');
+    const sent = screen.touches.length;
+    const ways = Array.from({ length: 12 }, (_, i) => [0, -8 * i]);
+    await swipe(screen, await middle(list(screen).grip('Comet')), ways, 'touchCancel');
+    await expectUntouched(screen, sent);
+  });
+
+scenario('a row in the hand is put back when the list is another by then', five,
+  async (screen) => {
+    await screen.push('Lotties');
+    const other = await screen.newPage();
+    await other.goto(screen.program.origin);
+    for (const end of [() => screen.page.keyboard.press('Escape'), () => {}]) {
+      const before = await list(screen).enabled();
+      await take(screen, 'Comet', -rowHeight);
+      await other.getByRole('button', { name: /^Insert/ }).first().click();
+      const cells = list(screen).section('Enabled').locator('.cell:not(.carried, .dragged)');
+      await eventually(async () => assert.equal(await cells.count(), before.length + 1));
+      await end();
+      await screen.page.mouse.up();
+      await eventually(async () =>
+        assert.deepEqual((await list(screen).enabled()).slice(1), before));
+    }
+    await other.close();
+  });
+
 scenario('a row of the other section has no grip', five, async (screen) => {
   await screen.push('Lotties');
   assert.equal(await list(screen).grip('Aurora').count(), 1);
@@ -97,6 +150,19 @@ scenario('a row is moved by arrow keys, keeps the keyboard and says where it is'
     await page.keyboard.press('ArrowUp');
     await screen.answered();
     assert.equal(screen.touches.length, sent, 'there is nothing above the first');
+  });
+
+scenario('arrow keys go on moving rows when the keyboard was elsewhere for the answer', five,
+  async (screen) => {
+    await screen.push('Lotties');
+    await list(screen).grip('Aurora').evaluate((grip) => {
+      grip.focus();
+      grip.dispatchEvent(new KeyboardEvent('keydown', { key: 'ArrowDown', bubbles: true }));
+      grip.blur();
+    });
+    await expectOrder(screen, 'Breeze', 'Aurora', 'Comet');
+    await list(screen).grip('Aurora').press('ArrowDown');
+    await expectOrder(screen, 'Breeze', 'Comet', 'Aurora');
   });
 
 scenario('a row that is dragged to the edge of the screen scrolls the list along',

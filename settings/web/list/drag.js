@@ -7,6 +7,9 @@ const options = {
   sort: false,
 };
 
+/** How a pointer ends that was not lifted. */
+const cancels = ['pointercancel', 'touchcancel'];
+
 /** Rows that are dragged by their grips. */
 export class Drag {
   #lists;
@@ -17,8 +20,8 @@ export class Drag {
 
   /**
    * @param {HTMLElement[]} lists of cells, all of the same height
-   * @param {function(string, {section: number, row: number}): void} drop hears which cell was
-   *     dropped where
+   * @param {function(string, {section: number, row: number}?): void} drop hears which cell was
+   *     dropped where; nowhere when the drag was cancelled
    */
   constructor(lists, drop) {
     this.#lists = lists;
@@ -28,7 +31,8 @@ export class Drag {
   /** Lets the rows of a list be dragged. */
   watch(list) {
     Sortable.create(list, {
-      ...options, onStart: ({ item }) => this.#start(item), onEnd: () => this.#end(),
+      ...options, onStart: ({ item }) => this.#start(item),
+      onEnd: ({ originalEvent: { type } }) => this.#end(cancels.includes(type)),
     });
   }
 
@@ -51,14 +55,15 @@ export class Drag {
       this.#y = clientY;
       this.arrange();
     }, { signal: this.#over.signal });
+    addEventListener('keydown', hearKey, { signal: this.#over.signal, capture: true });
     this.arrange();
   }
 
   /** The gap stays until the answer says where the row belongs now. */
-  #end() {
+  #end(isCancelled) {
     this.#over.abort();
     const { id } = this.#from;
-    const place = this.#below();
+    const place = isCancelled ? null : this.#below();
     this.#from = null;
     this.#drop(id, place);
   }
@@ -89,4 +94,12 @@ export class Drag {
     cell.classList.toggle('vacated', isNear && Number(row) === this.#from.row);
     cell.style.translate = rows ? `0 ${rows * this.#from.height}px` : '';
   }
+}
+
+/** Escape ends a drag as a pointer does that is cancelled, and does nothing else meanwhile. */
+function hearKey(event) {
+  if (event.key !== 'Escape') return;
+  event.preventDefault();
+  event.stopPropagation();
+  document.dispatchEvent(new PointerEvent('pointercancel'));
 }

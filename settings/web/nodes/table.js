@@ -9,9 +9,10 @@ const inHand = '.dragged, .carried';
 export function create(node, context) {
   const table = element('div', { class: 'table', tabindex: -1 });
   const move = (id, place) => context.touch({ kind: 'drag', ...place }, id);
+  const drop = (id, place) => (place ? move(id, place) : show(view));
   const lists = [];
   const view = {
-    element: table, lists, drag: new Drag(lists, move), keyboard: new Keyboard(table, move),
+    element: table, lists, drag: new Drag(lists, drop), keyboard: new Keyboard(table, move),
     node, there: { first: 0, end: 0 }, asked: '', context,
   };
   view.look = () => look(view);
@@ -21,16 +22,21 @@ export function create(node, context) {
 }
 
 export function update(view, node, context) {
-  const { element: table, lists, keyboard, drag } = view;
+  const { element: table } = view;
   view.node = node;
   table.style.setProperty('--rowHeight', `${node.rowHeight}px`);
   table.style.setProperty('--separator', node.separator);
+  show(view);
+  follow(view, context);
+}
+
+function show(view) {
+  const { node, lists, keyboard, drag, context } = view;
   keyboard.keep(() => {
     showSections(view, node.sections);
     lists.forEach((list, section) => place(view, list, section, context));
   });
   drag.arrange();
-  follow(view, context);
 }
 
 function showSections(view, sections) {
