@@ -10,16 +10,27 @@ export function create(_, context) {
     { type: 'button', class: 'grip', 'aria-keyshortcuts': 'ArrowUp ArrowDown' });
   const confirm = element('button', { type: 'button', class: 'confirm', hidden: true }, 'Delete');
   const cell = element('div', { class: 'cell', role: 'listitem' }, control, label, grip, confirm);
-  const view = { element: cell, control, label, grip, confirm };
+  const view = { element: cell, control, label, grip, confirm, isBusy: false };
+  const hear = (button, target) =>
+    button.addEventListener('click', (event) => tap(view, context, event, target()));
   // Once it asks, the control takes back what it asked.
-  control.addEventListener('click', () =>
-    context.touch({ kind: 'tap' }, view.node.confirm ? context.id : view.node.control));
-  confirm.addEventListener('click', () => context.touch({ kind: 'tap' }, view.node.confirm));
+  hear(control, () => (view.node.confirm ? context.id : view.node.control));
+  hear(confirm, () => view.node.confirm);
   return view;
 }
 
+/**
+ * Taps a button unless the row awaits an answer. The second half of a double click is none of
+ * ours: by then another row may stand below the mouse.
+ */
+function tap(view, context, { detail: clicks }, target) {
+  if (view.isBusy || clicks > 1) return;
+  view.isBusy = true;
+  context.touch({ kind: 'tap' }, target);
+}
+
 export function update(view, node) {
-  view.node = node;
+  Object.assign(view, { node, isBusy: false });
   ask(view, node);
   const { element: cell, control, label, grip, confirm } = view;
   Object.assign(cell.dataset, { section: node.section, row: node.row, editing: node.editing });
