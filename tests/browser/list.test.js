@@ -51,7 +51,8 @@ const ways = {
   'the Escape key': ({ page }) => page.keyboard.press('Escape'),
   'a tap on another row': (screen) =>
     list(screen).section('Enabled').getByText('Comet', { exact: true }).click(),
-  'a tap on the same red button': (screen) => list(screen).button('Delete', 'Breeze').click(),
+  'a tap on the same red button': ({ page }) =>
+    page.getByRole('button', { name: 'Cancel', exact: true }).click(),
   'another row’s red button': (screen) => list(screen).button('Delete', 'Comet').click(),
 };
 
@@ -69,6 +70,21 @@ for (const [way, takeBack] of Object.entries(ways)) {
     assert.deepEqual(await list(screen).enabled(), ['Aurora', 'Breeze', 'Comet']);
   });
 }
+
+scenario('while it asks, the red button is called by what it does then', five, async (screen) => {
+  await screen.push('Lotties');
+  const row = list(screen).section('Enabled').getByRole('listitem').nth(1);
+  const control = row.locator('.control');
+  const said = () => control.evaluate((at) => [at.ariaLabel, at.getAttribute('aria-expanded')]);
+  assert.deepEqual(await said(), ['Delete Breeze', 'false']);
+  await control.click();
+  await expectFocus(screen, 'Delete Breeze now');
+  assert.deepEqual(await said(), ['Cancel', 'true']);
+  assert.equal(await screen.page.getByRole('button', { name: 'Delete Breeze' }).count(), 1);
+  await control.click();
+  await eventually(async () => assert.deepEqual(await said(), ['Delete Breeze', 'false']));
+  assert.equal(await list(screen).button('Insert', 'Dune').getAttribute('aria-expanded'), null);
+});
 
 scenario('enabling and disabling are done by keyboard alone', five, async (screen) => {
   const { page } = screen;

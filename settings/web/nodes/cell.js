@@ -39,7 +39,8 @@ export function update(view, node) {
   setText(label, node.label);
   label.style.color = node.color;
   control.hidden = !node.control;
-  control.ariaLabel = `${names[node.editing]} ${node.label}`;
+  control.ariaLabel = node.confirm ? 'Cancel' : `${names[node.editing]} ${node.label}`;
+  control.ariaExpanded = node.editing === 'delete' ? String(Boolean(node.confirm)) : null;
   confirm.ariaLabel = `Delete ${node.label} now`;
   grip.hidden = !node.movable;
   grip.ariaLabel = `Reorder ${node.label}`;
