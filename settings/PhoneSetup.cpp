@@ -29,6 +29,10 @@ void install(const desktop::PhoneFolder& folder, std::span<const Asset> files) {
   }
 }
 
+bool isPhone(const desktop::PhoneFolder& folder) {
+  return folder.exists("/Library") || folder.exists("/var");
+}
+
 const char* environment(const char* name) {
   const char* value = std::getenv(name);
   return value && *value ? value : nullptr;
@@ -61,8 +65,12 @@ void requireFolder(const fs::path& folder) {
   }
 }
 
+bool holdsPhone(const fs::path& folder) {
+  return fs::is_directory(folder) && isPhone(desktop::PhoneFolder(folder));
+}
+
 void setUpPhone(const desktop::PhoneFolder& folder) {
-  const bool isNew = !folder.exists("/Library") && !folder.exists("/var");
+  const bool isNew = !isPhone(folder);
   for (const char* path : folders) folder.makeFolders(path);
   folder.makeLink("/User", "var/mobile");
   // A copy that followed links has two folders instead: pages and service would part ways.

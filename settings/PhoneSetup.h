@@ -14,6 +14,10 @@ std::filesystem::path defaultPhoneFolder();
 /// component is missing. Throws `std::runtime_error` with a message for the user.
 void requireFolder(const std::filesystem::path& folder);
 
+/// Whether `folder` is laid out like a phone's file system, or begun to be. Throws
+/// `std::system_error` when that cannot be found out.
+bool holdsPhone(const std::filesystem::path& folder);
+
 /// Lays the folder out like a phone's file system and installs the bundle in it, as a package
 /// would: the bundle's own files are brought up to date, nothing else is changed. An empty folder
 /// also gets the sample files. Throws `std::system_error`, or `std::runtime_error` when /User

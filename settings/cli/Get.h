@@ -4,7 +4,7 @@
 
 namespace settings::cli {
 
-/// Tells the value of a setting. Changes nothing.
+/// Tells the value of a setting. Changes no setting.
 std::string get(Hands& hands, const Request& request);
 
 }  // namespace settings::cli

@@ -4,7 +4,7 @@
 
 namespace settings::cli {
 
-/// Shows every setting that the pages offer. Changes nothing.
+/// Shows every setting that the pages offer. Changes none of them.
 std::string list(Hands& hands, const Request& request);
 
 }  // namespace settings::cli

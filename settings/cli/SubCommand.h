@@ -49,6 +49,8 @@ struct SubCommand {
   std::vector<Argument> arguments;
   std::vector<std::string> flags;  ///< Their names.
   const char* example;             ///< What stands behind the program's name.
+  /// Whether it changes something, and so makes a phone where there is none yet.
+  enum class Effect { Reads, Changes } effect;
 
   /// Does it; what is to be printed. Throws `UsageError`, and `std::runtime_error` when it could
   /// not be done, each with a message for the user.

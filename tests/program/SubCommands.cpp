@@ -1,11 +1,17 @@
 #include "tests/program/SubCommands.h"
 
+#include <csignal>
 #include <fstream>
 #include <iterator>
 
 namespace program_tests {
 
-SubCommands::SubCommands() { run(startAt({"list"})); }
+SubCommands::SubCommands() {
+  Program page(startAt({}));
+  page.firstLine();
+  page.signal(SIGTERM);
+  page.end();
+}
 
 Start SubCommands::startAt(std::vector<std::string> arguments) const {
   arguments.insert(arguments.begin(), {"--root", phone.string()});
