@@ -7,6 +7,7 @@
 
 #include "desktop/Foundation/PredicateBody.h"
 #include "desktop/Foundation/Values.h"
+#include "desktop/Letters.h"
 #include "desktop/Message.h"
 
 namespace desktop {
@@ -24,10 +25,6 @@ constexpr std::array<std::pair<char, char>, 6> escapes = {{
     {'r', '\r'},
     {'t', '\t'},
 }};
-
-char lower(char letter) {
-  return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
 
 /// Reads a predicate from the front to the back; each part answers whether it was there.
 class Parser {

@@ -4,6 +4,8 @@
 #include <numeric>
 #include <vector>
 
+#include "desktop/Letters.h"
+
 namespace settings::cli {
 
 namespace {
@@ -11,11 +13,7 @@ namespace {
 /// The longest word that is compared, in bytes, since the time grows with its square.
 constexpr std::size_t longest = 256;
 
-char lower(char letter) {
-  return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + ('a' - 'A')) : letter;
-}
-
-bool isSameLetter(char one, char other) { return lower(one) == lower(other); }
+bool isSameLetter(char one, char other) { return desktop::lower(one) == desktop::lower(other); }
 
 /// How many letters have to be put in, taken out or exchanged to make one word of the other, small
 /// and capital letters being the same (the Levenshtein distance).
