@@ -1,7 +1,7 @@
 #pragma once
 
 /// What the whole bundle shares: names, paths, the keys of the preferences and their defaults.
-/// Each stands here and nowhere else; rows and footers are made from it.
+/// In the bundle each stands here and nowhere else; rows and footers are made from it.
 namespace quillmere {
 
 inline constexpr const char* productName = "Quillmere";
