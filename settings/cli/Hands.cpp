@@ -59,6 +59,7 @@ void Hands::answerAlert(bool confirmed) {
 void Hands::change(const std::function<void()>& touch) {
   complained_ = false;
   touch();
+  loop_.restart();  // The change before this one left the loop out of work, and so stopped.
   loop_.run();
   if (complained_) throw std::runtime_error("the change was not stored");
   if (board().phase() != Phase::Running) throw std::runtime_error("the phone did not restart");
