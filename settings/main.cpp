@@ -6,6 +6,7 @@
 #include "settings/Options.h"
 #include "settings/Serve.h"
 #include "settings/cli/Run.h"
+#include "settings/cli/Words.h"
 
 using namespace settings;
 
@@ -32,7 +33,7 @@ int main(int argc, char** argv) {
     serve(parsed.options);
     return 0;
   } catch (const std::exception& failure) {
-    std::cerr << "quillmere-settings: " << failure.what() << std::endl;
+    std::cerr << "quillmere-settings: " << cli::visible(failure.what()) << std::endl;
     return 1;
   }
 }

@@ -2,6 +2,7 @@
 
 #include "settings/cli/Lotties.h"
 #include "settings/cli/Values.h"
+#include "settings/cli/Words.h"
 
 namespace settings::cli {
 
@@ -9,7 +10,7 @@ namespace {
 
 std::string lines(const std::vector<std::string>& names) {
   std::string text;
-  for (const std::string& name : names) text += name + '\n';
+  for (const std::string& name : names) text += visible(name) + '\n';
   return text;
 }
 
@@ -22,7 +23,7 @@ std::string get(Hands& hands, const Request& request) {
     return request.json ? printed(names) : lines(names);
   }
   const nlohmann::json value = describe(rowWithKey(hands, key).control).value;
-  return request.json ? printed(value) : plain(value) + '\n';
+  return request.json ? printed(value) : visible(plain(value)) + '\n';
 }
 
 }  // namespace settings::cli

@@ -5,6 +5,7 @@
 
 #include "desktop/Preferences/SpecifierBody.h"
 #include "settings/Overlay.h"
+#include "settings/cli/Words.h"
 
 namespace settings::cli {
 
@@ -29,7 +30,7 @@ Hands::Hands(const Options& options)
   session_.phone.report = [this, say = session_.phone.report](const std::string& line) {
     // What a restart finds has nothing to do with the change before it.
     if (board().phase() == Phase::Running) complained_ = true;
-    say(line);
+    say(visible(line));
   };
   clearScreen();
 }

@@ -5,6 +5,7 @@
 
 #include "settings/cli/Hands.h"
 #include "settings/cli/Values.h"
+#include "settings/cli/Words.h"
 
 namespace settings::cli {
 
@@ -27,9 +28,9 @@ json nodeOf(const Row& row) {
 
 Line lineOf(const Row& row) {
   const Description about = describe(row.control);
-  const std::string otherwise = titled(about, about.otherwise);
+  const std::string otherwise = visible(titled(about, about.otherwise));
   return {row.page,
-          {row.key, titled(about, about.value), about.takes,
+          {row.key, visible(titled(about, about.value)), about.takes,
            otherwise.empty() ? "" : "default " + otherwise}};
 }
 

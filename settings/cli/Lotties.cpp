@@ -75,7 +75,7 @@ std::size_t rowAt(const std::string& position, std::size_t count) {
 
 std::string heading(TableBody& table, std::size_t section) {
   std::string text = table.sections()[section].title + '\n';
-  for (const std::string& name : namesIn(table, section)) text += "  " + name + '\n';
+  for (const std::string& name : namesIn(table, section)) text += "  " + visible(name) + '\n';
   return text;
 }
 

@@ -10,6 +10,7 @@
 
 #include "settings/PhoneSetup.h"
 #include "settings/cli/Hands.h"
+#include "settings/cli/Words.h"
 
 namespace settings::cli {
 
@@ -42,7 +43,7 @@ int run(const Options& options) {
     print(options.subCommand->perform(hands, options.request));
     return 0;
   } catch (const UsageError& mistake) {
-    std::cerr << "quillmere-settings: " << mistake.what() << std::endl;
+    std::cerr << "quillmere-settings: " << visible(mistake.what()) << std::endl;
     return 2;
   }
 }

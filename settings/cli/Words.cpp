@@ -1,7 +1,9 @@
 #include "settings/cli/Words.h"
 
 #include <algorithm>
+#include <iterator>
 #include <numeric>
+#include <utility>
 #include <vector>
 
 #include "desktop/Letters.h"
@@ -34,6 +36,17 @@ std::size_t distance(std::string_view one, std::string_view other) {
 /// How far a known word may be from one that was meant to be it.
 std::size_t tolerance(std::string_view known) { return std::max<std::size_t>(1, known.size() / 3); }
 
+bool isControl(unsigned char code) { return code < 0x20 || code == 0x7F; }
+
+std::string escaped(unsigned char code) {
+  constexpr std::pair<unsigned char, const char*> named[] = {
+      {'\t', "\\t"}, {'\n', "\\n"}, {'\r', "\\r"}};
+  const auto* found = std::ranges::find(named, code, [](const auto& each) { return each.first; });
+  if (found != std::end(named)) return found->second;
+  constexpr std::string_view digits = "0123456789abcdef";
+  return {'\\', 'x', digits[code >> 4], digits[code & 0xF]};
+}
+
 }  // namespace
 
 bool isSameWord(std::string_view one, std::string_view other) {
@@ -54,6 +67,22 @@ std::string suggestion(std::string_view word, std::span<const std::string> known
     if (std::ranges::find(nearest, quoted) == nearest.end()) nearest.push_back(quoted);
   }
   return nearest.empty() ? otherwise : "; did you mean " + joined(nearest) + "?";
+}
+
+std::string visible(std::string_view text) {
+  std::string shown;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    // Those of C1 are two bytes in UTF-8, of which the second is their code.
+    const bool isC1 = text[i] == '\xC2' && i + 1 < text.size() && (text[i + 1] & 0xE0) == 0x80;
+    if (isC1) ++i;
+    const auto code = static_cast<unsigned char>(text[i]);
+    if (isC1 || isControl(code)) {
+      shown += escaped(code);
+    } else {
+      shown += text[i];
+    }
+  }
+  return shown;
 }
 
 std::string joined(std::span<const std::string> texts) {

@@ -100,6 +100,18 @@ TEST_F(LottiesTest, MayBeCalledAsSubCommandsAre) {
   }
 }
 
+TEST_F(LottiesTest, HaveNamesThatNoTerminalObeys) {
+  const std::string name = "Red\x1b[31m\nRain";
+  std::ofstream(phone / "Library/Lotties/Quillmere" / (name + ".lottie")) << "";
+  EXPECT_NE(said({"lotties", "list"}).find("\n  Red\\x1b[31m\\nRain\n"), std::string::npos);
+  expectRefused({"lotties", "enable", "red\x1b[31m\nrain"}, 2,
+                "no animation \"red\\x1b[31m\\nrain\"; did you mean \"Red\\x1b[31m\\nRain\"?\n");
+  said({"lotties", "enable", name});
+  EXPECT_EQ(said({"get", "enabledLotties"}), "Red\\x1b[31m\\nRain\nClock\nNice Buttons\n");
+  EXPECT_EQ(saidJson({"get", "enabledLotties", "--json"})[0], name);
+  EXPECT_EQ(enabled()[0], name);
+}
+
 TEST_F(LottiesTest, ThatCannotBeStoredAreComplainedOf) {
   writePreferences("bad");
   expectRefused({"lotties", "enable", "Rain"}, 1, "cannot be read");

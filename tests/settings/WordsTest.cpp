@@ -31,5 +31,20 @@ TEST(WordsTest, AreTheSameInSmallAndCapitalLetters) {
   EXPECT_FALSE(settings::cli::isSameWord("@", "`"));
 }
 
+TEST(WordsTest, ShowTheirControlCharacters) {
+  using settings::cli::visible;
+  EXPECT_EQ(visible("a\tb\nc\rd"), "a\\tb\\nc\\rd");
+  EXPECT_EQ(visible("\x1b[31m\x7f\x01"), "\\x1b[31m\\x7f\\x01");
+  EXPECT_EQ(visible(std::string(1, '\0')), "\\x00");
+  EXPECT_EQ(visible("\xc2\x80 \xc2\x9b"), "\\x80 \\x9b");
+}
+
+TEST(WordsTest, AreShownAsTheyAreOtherwise) {
+  for (const std::string word :
+       {"", "Nice Buttons", "\\n", "\xc2\xa0", "Ünï\xe2\x80\x94", "\xc2"}) {
+    EXPECT_EQ(settings::cli::visible(word), word);
+  }
+}
+
 }  // namespace
 }  // namespace settings_tests
