@@ -27,16 +27,23 @@ NSMutableArray installedAnimations() {
   return names;
 }
 
-/// The names in a stored list. Whatever else stands there is not shown, and gives way only when
+bool holdsStringsOnly(const NSArray& list) {
+  for (std::size_t i = 0; i < list.count(); ++i) {
+    if (!NSString::isKind(list.objectAtIndex(i))) return false;
+  }
+  return true;
+}
+
+/// The names in what is stored. Whatever else stands there is not shown, and gives way only when
 /// the list is stored anew.
 NSMutableArray namesIn(const Object& stored) {
   if (!NSArray::isKind(stored)) return NSMutableArray::array();
-  NSMutableArray names = stored.as<NSArray>().mutableCopy();
-  NSMutableArray others = NSMutableArray::array();
-  for (std::size_t i = 0; i < names.count(); ++i) {
-    if (!NSString::isKind(names.objectAtIndex(i))) others.addObject(names.objectAtIndex(i));
+  const NSArray list = stored.as<NSArray>();
+  if (holdsStringsOnly(list)) return list.mutableCopy();
+  NSMutableArray names = NSMutableArray::array();
+  for (std::size_t i = 0; i < list.count(); ++i) {
+    if (NSString::isKind(list.objectAtIndex(i))) names.addObject(list.objectAtIndex(i));
   }
-  names.removeObjectsInArray(others);
   return names;
 }
 

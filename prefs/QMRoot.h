@@ -60,6 +60,7 @@ class QMRoot : public QMPage, public platform::MFMailComposeViewControllerDelega
  private:
   void installEnableSwitch();
   void installTitleView();
+  void blurAndRespring();
   void prompt(const char* message, std::function<void()> confirmed);
 };
 

@@ -25,17 +25,6 @@ void respringNow() {
       NSURL::URLWithString(NSString::stringWithFormat("prefs:root=%@", {NSString(productName)})));
 }
 
-void blurAndRespring(UIView view) {
-  UIVisualEffectView blur =
-      UIVisualEffectView::initWithEffect(UIBlurEffect::effectWithStyle(UIBlurEffectStyle::Regular));
-  blur.setFrame(view.bounds());
-  blur.setAlpha(0.0);
-  view.addSubview(blur);
-  UIView::animateWithDuration(
-      blurDuration, 0.0, UIViewAnimationOptions::CurveEaseOut, [&blur] { blur.setAlpha(1.0); },
-      [](bool) { respringNow(); });
-}
-
 void reset() {
   HBPreferences::initWithIdentifier(domain).removeAllObjects();
   dispatch_after(resetDelay, [] {
@@ -60,15 +49,26 @@ void QMRoot::setEnableSwitchState() {
 }
 
 void QMRoot::respring() {
-  prompt("Do you really want to respring?", [view = view()] { blurAndRespring(view); });
+  prompt("Do you really want to respring?", [this] { blurAndRespring(); });
 }
 
 void QMRoot::respringAfterEnable() {
   prompt("Enabling or Disabling the tweak requires a respring, Do you want to respring?",
-         [view = view()] { blurAndRespring(view); });
+         [this] { blurAndRespring(); });
 }
 
 void QMRoot::resetPreferences() { prompt("Do you really want to Reset All Settings?", &reset); }
+
+void QMRoot::blurAndRespring() {
+  UIVisualEffectView blur =
+      UIVisualEffectView::initWithEffect(UIBlurEffect::effectWithStyle(UIBlurEffectStyle::Regular));
+  blur.setFrame(view().bounds());
+  blur.setAlpha(0.0);
+  view().addSubview(blur);
+  UIView::animateWithDuration(
+      blurDuration, 0.0, UIViewAnimationOptions::CurveEaseOut, [&blur] { blur.setAlpha(1.0); },
+      [](bool) { respringNow(); });
+}
 
 void QMRoot::prompt(const char* message, std::function<void()> confirmed) {
   UIAlertController alert = UIAlertController::alertControllerWithTitle(

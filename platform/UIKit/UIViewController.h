@@ -29,7 +29,7 @@ class UIViewController {
   /// used.
   virtual bool init();
 
-  /// The view was made; called once.
+  /// The view was made. The platform calls it once; the base version bears being called again.
   virtual void viewDidLoad();
   virtual void viewWillAppear(Animated animated);
   virtual void viewDidAppear(Animated animated);

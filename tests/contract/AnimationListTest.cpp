@@ -59,10 +59,8 @@ TEST_F(AnimationList, InitialisesTitleCatalogueAndTableInOrder) {
           "HBPreferences objectForKey:\"enabledLotties\"",
           "HBPreferences objectForKey:\"enabledLotties\"",
           // The stored list is looked through for what is no name.
-          "NSArray isKindOfClass:NSArray", "NSArray mutableCopy", "NSMutableArray array",
-          "NSMutableArray count", "NSMutableArray objectAtIndex:0",
-          "NSString isKindOfClass:NSString", "NSMutableArray count",
-          "NSMutableArray removeObjectsInArray:()",
+          "NSArray isKindOfClass:NSArray", "NSArray count", "NSArray objectAtIndex:0",
+          "NSString isKindOfClass:NSString", "NSArray count", "NSArray mutableCopy",
           "NSMutableArray removeObjectsInArray:(\"Snow\")", "QMLottiesList viewDidLoad",
           "UIView bounds", "UITableView initWithFrame:{{0, 0}, {390, 844}} style:1",
           "UITableView setDelegate:QMLottiesList", "UITableView setDataSource:QMLottiesList",
