@@ -23,8 +23,14 @@ constexpr double rowHeight = 44;
 constexpr std::string_view controlEnding = ".control";
 constexpr std::string_view confirmEnding = ".confirm";
 
+/// What the ids of all rows begin with until the next reload: a touch that was meant for the row
+/// that stood there before must not reach the one that stands there now.
+std::string rowPrefix(const TableBody& table) {
+  return viewId(table) + ".load" + std::to_string(table.reloads()) + ".row";
+}
+
 std::string rowId(const TableBody& table, const NSIndexPath& path) {
-  return viewId(table) + ".row" + std::to_string(path.section) + "." + std::to_string(path.row);
+  return rowPrefix(table) + std::to_string(path.section) + "." + std::to_string(path.row);
 }
 
 constexpr const char* nameOf(UITableViewCellEditingStyle style) {
@@ -104,7 +110,7 @@ std::string addTable(Tree& tree, TableBody& table, const Viewport& viewport) {
 }
 
 std::optional<TableTarget> tableTarget(TableBody& table, std::string_view id) {
-  const std::string prefix = viewId(table) + ".row";
+  const std::string prefix = rowPrefix(table);
   if (!id.starts_with(prefix)) return std::nullopt;
   std::string_view rest = id.substr(prefix.size());
   const auto section = takeNumber(rest);

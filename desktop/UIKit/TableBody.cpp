@@ -57,6 +57,7 @@ UITableViewCell TableBody::dequeue(const std::string& identifier) {
 }
 
 void TableBody::reload() {
+  ++reloads_;
   sections_.reset();
   confirming_.reset();
   retireCells();

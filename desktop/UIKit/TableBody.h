@@ -42,6 +42,8 @@ class TableBody : public ViewBody {
   platform::UITableViewCell cell(const platform::NSIndexPath& path);
   platform::UITableViewCell dequeue(const std::string& identifier);
   void reload();
+  /// How often it was reloaded: positions in the table mean the same as long as that is the same.
+  unsigned reloads() const { return reloads_; }
 
   /// @name The user's hands. The row must be there.
   /// @{
@@ -80,6 +82,7 @@ class TableBody : public ViewBody {
   std::map<Position, platform::UITableViewCell> cells_;
   std::map<std::string, std::vector<platform::UITableViewCell>> retired_;
   std::optional<platform::NSIndexPath> confirming_;
+  unsigned reloads_ = 0;
 };
 
 /// Whether the controller listens to its table's scrolling.

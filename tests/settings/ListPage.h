@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "desktop/UIKit/TableBody.h"
 #include "platform/UIKit/UITableView.h"
 #include "platform/UIKit/UITableViewDataSource.h"
 #include "platform/UIKit/UITableViewDelegate.h"
@@ -62,7 +63,10 @@ class ListPageTest : public PhoneScreenTest {
   std::string tableId() { return tree().at("page2")["children"][0]; }
   nlohmann::json table() { return tree().at(tableId()); }
   /// What the tree calls that row, as in "0.3".
-  std::string rowId(const std::string& row) { return tableId() + ".row" + row; }
+  std::string rowId(const std::string& row) {
+    const unsigned reloads = desktop::bodyAs<desktop::TableBody>(page->table)->reloads();
+    return tableId() + ".load" + std::to_string(reloads) + ".row" + row;
+  }
   nlohmann::json row(const std::string& row) { return tree().at(rowId(row)); }
 
   /// The labels of the rows that the table shows.
