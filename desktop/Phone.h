@@ -50,8 +50,8 @@ class Phone {
   /// The folder of the bundle that is open, whose resources its controllers load.
   std::string bundle;
 
-  /// Told the phone's path of each mail that was sent, once it lies there; may be empty.
-  std::function<void(const std::string& path)> mailSent;
+  /// Told of each mail that was sent, as it travels, when all else is done; may be empty.
+  std::function<void(const std::string& message)> mailSent;
 
   /// Its file system.
   PhoneFolder folder;

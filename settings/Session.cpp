@@ -21,7 +21,10 @@ std::filesystem::path phoneFolder(const Options& options) {
 desktop::Identity identityOf(const desktop::PhoneFolder& folder, const Options& options) {
   desktop::Identity identity = desktop::readIdentity(folder);
   if (!options.productType.empty()) identity.productType = options.productType;
-  if (!options.iosVersion.empty()) identity.productVersion = options.iosVersion;
+  if (!options.iosVersion.empty()) {
+    identity.productVersion = options.iosVersion;
+    identity.buildVersion.reset();  // The files' build is of another version.
+  }
   if (!options.iosBuild.empty()) identity.buildVersion = options.iosBuild;
   return identity;
 }
@@ -45,8 +48,8 @@ void Session::runCommands(const Options& options) {
   phone.notifications.observe([this, command = options.notifyCommand](const std::string& name) {
     commands_.run(command, {{name}, {}});
   });
-  phone.mailSent = [this, command = options.mailCommand](const std::string& path) {
-    if (!command.empty()) commands_.run(command, {{}, phone.folder.read(path).value_or("")});
+  phone.mailSent = [this, command = options.mailCommand](const std::string& message) {
+    commands_.run(command, {{}, message});
   };
 }
 

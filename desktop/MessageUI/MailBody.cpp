@@ -21,11 +21,6 @@ namespace {
 constexpr const char* outbox = "/var/mobile/Library/Mail/Outbox/";
 constexpr const char* drafts = "/var/mobile/Library/Mail/Drafts/";
 
-unsigned nextNumber() {
-  static unsigned last = 0;
-  return ++last;
-}
-
 /// The time in UTC, in ISO 8601's basic form.
 std::string timestamp() {
   const std::time_t now = std::time(nullptr);
@@ -47,18 +42,14 @@ std::string freePathIn(const std::string& folder) {
   return folder + timestamp() + '-' + digits.data() + ".eml";
 }
 
-/// Where it was put. Throws `std::system_error`.
-std::string put(const std::string& folder, const MimeMessage& message) {
+/// Throws `std::system_error`.
+void put(const std::string& folder, std::string_view text) {
   const PhoneFolder& phone = Phone::current().folder;
   phone.makeFolders(folder.substr(0, folder.size() - 1));
-  const std::string path = freePathIn(folder);
-  phone.replace(path, format(message));
-  return path;
+  phone.replace(freePathIn(folder), text);
 }
 
 }  // namespace
-
-MailBody::MailBody() : number(nextNumber()) {}
 
 void MailBody::change(std::string& text, std::string edited) {
   isChanged_ = isChanged_ || text != edited;
@@ -86,9 +77,9 @@ void MailBody::askToCancel() {
 void MailBody::store(const std::string& folder, MFMailComposeResult result) {
   if (isFinished_) return;
   Phone& phone = Phone::current();
-  std::string path;
+  const std::string text = format(message);
   try {
-    path = put(folder, message);
+    put(folder, text);
   } catch (const std::system_error& failure) {
     const std::string reason = failure.code().message();
     phone.report("the mail was not put into " + folder + ": " + reason);
@@ -96,8 +87,8 @@ void MailBody::store(const std::string& folder, MFMailComposeResult result) {
            make<platform::NSError, ErrorBody>(failure.code().value(), reason));
     return;
   }
-  if (result == MFMailComposeResult::Sent && phone.mailSent) phone.mailSent(path);
-  finish(result, {});
+  finish(result, {});  // This object may be gone after it.
+  if (result == MFMailComposeResult::Sent && phone.mailSent) phone.mailSent(text);
 }
 
 void MailBody::finish(MFMailComposeResult result, const platform::NSError& error) {

@@ -12,8 +12,6 @@ namespace desktop {
 /// `cancel`, which tells the delegate; what is asked of it later does nothing.
 class MailBody : public Body {
  public:
-  MailBody();
-
   std::string_view className() const override { return "MFMailComposeViewController"; }
 
   /// @name The user's hands.
@@ -25,8 +23,8 @@ class MailBody : public Body {
   /// Whether there is somebody to send it to, and every address is well-formed.
   bool canSend() const;
 
-  /// Puts the mail into the phone's outbox, /var/mobile/Library/Mail/Outbox, and tells
-  /// `Phone::mailSent`. Does nothing unless it can be sent.
+  /// Puts the mail into the phone's outbox, /var/mobile/Library/Mail/Outbox, and at the very end
+  /// tells `Phone::mailSent`. Does nothing unless it can be sent.
   void send();
   /// Puts the mail into /var/mobile/Library/Mail/Drafts.
   void saveDraft();
@@ -43,9 +41,6 @@ class MailBody : public Body {
 
   /// Whether the user is being asked what is to become of the mail.
   bool isAsking() const { return isAsking_; }
-
-  /// Never used twice, so that who draws the screen can name the mail.
-  const unsigned number;
 
   /// As it is written so far.
   MimeMessage message;
