@@ -193,6 +193,12 @@ bool PhoneFolder::exists(std::string_view path) const {
   return number >= 0;
 }
 
+bool PhoneFolder::isFile(std::string_view path) const {
+  const Descriptor place(openInside(root_, path, O_PATH));
+  struct stat found {};
+  return place.number() >= 0 && fstat(place.number(), &found) == 0 && S_ISREG(found.st_mode);
+}
+
 bool PhoneFolder::areSame(std::string_view one, std::string_view other) const {
   struct stat left {};
   struct stat right {};

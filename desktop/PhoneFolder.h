@@ -37,6 +37,9 @@ class PhoneFolder {
   /// Whether something stands there; false also when that cannot be found out.
   bool exists(std::string_view path) const;
 
+  /// Whether a regular file stands there; false also when that cannot be found out.
+  bool isFile(std::string_view path) const;
+
   /// Whether both paths lead to the same file or folder.
   bool areSame(std::string_view one, std::string_view other) const;
 

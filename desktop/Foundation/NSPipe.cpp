@@ -1,5 +1,6 @@
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <fcntl.h>
 #include <system_error>
 #include <unistd.h>
@@ -20,7 +21,32 @@ PipeBody::PipeBody() {
   writing_ = Descriptor(ends[1]);
 }
 
+namespace {
+
+/// Lets Ctrl-C and SIGTERM end the program at once for as long as it lives: while the only thread
+/// waits here, nobody else hears of them.
+class EndedBySignals {
+ public:
+  EndedBySignals() {
+    struct sigaction ends {};
+    ends.sa_handler = SIG_DFL;
+    for (std::size_t i = 0; i < signals.size(); ++i) sigaction(signals[i], &ends, &before_[i]);
+  }
+  EndedBySignals(const EndedBySignals&) = delete;
+  EndedBySignals& operator=(const EndedBySignals&) = delete;
+  ~EndedBySignals() {
+    for (std::size_t i = 0; i < signals.size(); ++i) sigaction(signals[i], &before_[i], nullptr);
+  }
+
+ private:
+  static constexpr std::array signals{SIGINT, SIGTERM};
+  std::array<struct sigaction, signals.size()> before_;
+};
+
+}  // namespace
+
 std::string PipeBody::readToEnd() {
+  const EndedBySignals endedBySignals;
   leaveWriting();
   std::string bytes;
   std::array<char, 1 << 16> piece;

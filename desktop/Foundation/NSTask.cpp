@@ -42,7 +42,7 @@ constexpr std::array<const char*, 4> packageDatabases = {
 std::optional<desktop::Descriptor> packageDatabase() {
   const desktop::PhoneFolder& folder = Phone::current().folder;
   const auto* path = std::ranges::find_if(
-      packageDatabases, [&](const std::string& each) { return folder.exists(each + "/status"); });
+      packageDatabases, [&](const std::string& each) { return folder.isFile(each + "/status"); });
   if (path == packageDatabases.end()) return std::nullopt;
   return folder.openFolder(*path);
 }

@@ -1,3 +1,4 @@
+#include <csignal>
 #include <cstdlib>
 #include <gtest/gtest.h>
 
@@ -73,6 +74,15 @@ TEST_F(NSTaskTest, OutputIsEmptyWhenNothingWasLaunched) {
   EXPECT_EQ(output(task), "");
   task.launch();
   EXPECT_FALSE(reports.empty());
+}
+
+TEST_F(NSTaskTest, IsGivenUpWhenTheProgramIsToldToEnd) {
+  // Like the event loop's: heard only by what runs when the wait is over.
+  const auto wait = [] {
+    std::signal(SIGTERM, [](int) {});
+    outputOf("kill -TERM $PPID; sleep 30");
+  };
+  EXPECT_EXIT(wait(), testing::KilledBySignal(SIGTERM), "");
 }
 
 TEST_F(NSTaskTest, InputIsEmpty) { EXPECT_EQ(outputOf("cat; echo end"), "end\n"); }
