@@ -1,6 +1,9 @@
 #include "desktop/SpringBoard.h"
 
 #include <stdexcept>
+#include <utility>
+
+#include "desktop/Phone.h"
 
 namespace desktop {
 
@@ -25,7 +28,20 @@ void SpringBoard::restart(const std::string& address, MainQueue::Clock::time_poi
   queue_.clear();  // What the application still meant to do ends with it.
   const auto passed = queue_.now() - began;
   queue_.after(darkTime - passed, [this] { phase_ = Phase::Locked; });
-  queue_.after(darkTime + lockedTime - passed, [this, address] { open(address); });
+  queue_.after(darkTime + lockedTime - passed, [this, address] { reopen(address); });
+}
+
+void SpringBoard::reopen(const std::string& address) {
+  if (phase_ == Phase::Running) return;
+  try {
+    open(address);
+    isStuck_ = false;
+  } catch (const std::exception& failure) {
+    if (!std::exchange(isStuck_, true)) {
+      Phone::current().report(address + " does not open, and is tried again: " + failure.what());
+    }
+    queue_.after(retryTime, [this, address] { reopen(address); });
+  }
 }
 
 NavigationController* SpringBoard::navigation() {

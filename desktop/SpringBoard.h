@@ -36,6 +36,11 @@ class SpringBoard {
 
   Phase phase() const { return phase_; }
 
+  /// Whether the last attempt to open an address after a restart failed. It is reported once, and
+  /// tried again every `retryTime`, with the lock screen to be seen.
+  bool isStuck() const { return isStuck_; }
+  static constexpr std::chrono::seconds retryTime{2};
+
   /// The pages on the screen; null unless the phase is `Running`.
   NavigationController* navigation();
 
@@ -49,8 +54,11 @@ class SpringBoard {
   /// Ends the application, and lets the two phases follow, counted from `began`.
   void restart(const std::string& address, MainQueue::Clock::time_point began);
 
+  void reopen(const std::string& address);
+
   MainQueue& queue_;
   Phase phase_ = Phase::Dark;
+  bool isStuck_ = false;
   std::unique_ptr<SettingsApplication> application_;
 };
 

@@ -61,7 +61,8 @@ void Hands::change(const std::function<void()>& touch) {
   complained_ = false;
   touch();
   loop_.restart();  // The change before this one left the loop out of work, and so stopped.
-  loop_.run();
+  while (!board().isStuck() && loop_.run_one() > 0) {
+  }
   if (complained_) throw std::runtime_error("the change was not stored");
   if (board().phase() != Phase::Running) throw std::runtime_error("the phone did not restart");
 }

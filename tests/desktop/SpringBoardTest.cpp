@@ -1,3 +1,4 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <stdexcept>
 
@@ -135,19 +136,29 @@ TEST_F(SpringBoardTest, ARestartToABadAddressStaysLockedAndIsReported) {
   pass(SpringBoard::darkTime + SpringBoard::lockedTime);
   EXPECT_EQ(board.phase(), Phase::Locked);
   EXPECT_FALSE(board.navigation());
-  EXPECT_EQ(reports, Strings{"nothing opens nowhere"});
+  EXPECT_TRUE(board.isStuck());
+  EXPECT_EQ(reports, Strings{"nowhere does not open, and is tried again: nothing opens nowhere"});
   board.open(address);
   EXPECT_EQ(board.phase(), Phase::Running);
+  const unsigned number = board.navigation()->top().number;
+  pass(SpringBoard::retryTime);
+  EXPECT_EQ(board.navigation()->top().number, number);
 }
 
-TEST_F(SpringBoardTest, ALoaderEntryThatIsGoneAtReopeningIsReported) {
-  std::filesystem::remove(loader / "Addon.plist");
+TEST_F(SpringBoardTest, ALoaderEntryThatIsGoneAtReopeningIsReportedOnceAndAwaited) {
+  std::filesystem::rename(loader / "Addon.plist", loader / "gone");
   board.respringAndReturnTo(address);
   pass(SpringBoard::darkTime + SpringBoard::lockedTime);
   EXPECT_EQ(board.phase(), Phase::Locked);
   EXPECT_FALSE(board.navigation());
-  EXPECT_EQ(reports,
-            Strings{"no entry in /Library/PreferenceLoader/Preferences is labelled Addon"});
+  pass(SpringBoard::retryTime);
+  EXPECT_EQ(reports.size(), 1U);
+  EXPECT_THAT(reports.at(0),
+              testing::HasSubstr("no entry in /Library/PreferenceLoader/Preferences is labelled"));
+  std::filesystem::rename(loader / "gone", loader / "Addon.plist");
+  pass(SpringBoard::retryTime);
+  EXPECT_EQ(board.phase(), Phase::Running);
+  EXPECT_FALSE(board.isStuck());
 }
 
 TEST_F(SpringBoardTest, TheBundleAsksForARestartByItsController) {

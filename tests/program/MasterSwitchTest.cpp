@@ -50,6 +50,12 @@ TEST_F(ResetTest, WithYesDeletesTheSettingsAndRespringsOnce) {
   EXPECT_EQ(said({"get", "clockDigitSize"}), "75\n");
 }
 
+TEST_F(ResetTest, EndsAlsoWhenThePhoneDoesNotComeBack) {
+  const auto loader = phone / "Library/PreferenceLoader/Preferences/Quillmere.plist";
+  expectRefused({"reset", "--yes", "--respring-command", "rm '" + loader.string() + "'"}, 1,
+                "the phone did not restart");
+}
+
 TEST_F(ResetTest, WithoutSettingsIsDoneAsWell) {
   EXPECT_EQ(said({"reset", "--yes"}), "");
   EXPECT_EQ(preferences(), std::nullopt);

@@ -87,9 +87,9 @@ TEST_F(RestartTest, WithoutItsLoaderEntryThePhoneStaysLockedAndSaysWhy) {
   pass(SpringBoard::darkTime + SpringBoard::lockedTime);
   EXPECT_EQ(overlay()["phase"], "locked");
   EXPECT_EQ(refusal(json{{"kind", "tap"}, {"id", clockRow}}), "the phone is restarting");
-  EXPECT_EQ(reports,
-            std::vector<std::string>{
-                "no entry in /Library/PreferenceLoader/Preferences is labelled Quillmere"});
+  EXPECT_EQ(reports, std::vector<std::string>{
+                         "prefs:root=Quillmere does not open, and is tried again: no entry in "
+                         "/Library/PreferenceLoader/Preferences is labelled Quillmere"});
 }
 
 }  // namespace
