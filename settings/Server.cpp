@@ -130,17 +130,21 @@ asio::awaitable<void> Server::converse(std::shared_ptr<Client> client, Request h
 }
 
 void Server::touched(Client& client, std::string_view message) {
+  const Client* answered = nullptr;
   try {
     application_.touch(client.viewport, message);
     client.answer(application_.tree(client.viewport));
+    answered = &client;
   } catch (const RefusedTouch& refused) {
     client.refuse(refused.what());
   }
-  refresh();
+  refresh(answered);
 }
 
-void Server::refresh() {
-  for (const auto& each : clients_) each->show(application_.tree(each->viewport));
+void Server::refresh(const Client* inStep) {
+  for (const auto& each : clients_) {
+    if (each.get() != inStep) each->show(application_.tree(each->viewport));
+  }
 }
 
 }  // namespace settings

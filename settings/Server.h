@@ -37,8 +37,8 @@ class Server {
   Server(boost::asio::io_context& loop, std::uint16_t port, Application application);
   ~Server();
 
-  /// Brings every open page to what the screen shows now.
-  void refresh();
+  /// Brings every open page to what the screen shows now, but for one that is in step already.
+  void refresh(const Client* inStep = nullptr);
 
   /// The address to open in a browser.
   std::string address() const { return access_.address(); }
