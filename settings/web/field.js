@@ -4,10 +4,10 @@ import { element } from './element.js';
 const pause = 300;
 
 /** The longest text that the program takes, in bytes of UTF-8. */
-const longestText = 256 * 1024;
+const longestText = 32 * 1024;
 
 /** The same as it is written in a message, which leaves some room for what stands around it. */
-const longestWritten = 1020 * 1024;
+const longestWritten = 63 * 1024;
 
 const bytes = (text) => new TextEncoder().encode(text).length;
 const fits = (text) =>
