@@ -42,7 +42,8 @@ TEST_F(PhoneFolderFolders, ExistsTellsWhatStandsThere) {
   EXPECT_TRUE(phone->folder.exists("/"));
   EXPECT_TRUE(phone->folder.exists("/var/mobile"));
   EXPECT_FALSE(phone->folder.exists("/missing"));
-  EXPECT_FALSE(phone->folder.isFile(path));
+  EXPECT_TRUE(phone->folder.isFile(path));
+  EXPECT_FALSE(phone->folder.isFile("/var/mobile"));
   EXPECT_FALSE(phone->folder.isFile("/missing"));
   EXPECT_FALSE(phone->folder.exists(std::string(path) + "/below"));
 }
