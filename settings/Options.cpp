@@ -39,7 +39,7 @@ void addPhone(CLI::App& app, Options& options) {
       ->check(something());
   app.add_option("--screen-scale", options.screenScale,
                  "How many pixels the phone's screen has to a point (default: 3)")
-      ->type_name("1|2|3")
+      ->option_text("1|2|3")
       ->check(CLI::IsMember({"1", "2", "3"}));
   app.add_option("--ios-version", options.iosVersion,
                  "The version of iOS that the phone says it has, such as 14.3\n"
