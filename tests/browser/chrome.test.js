@@ -102,4 +102,7 @@ scenario('a picture stands above the rows, and the icon fits into the bar', {},
     assert.ok(Math.abs(x + width / 2 - header.x - header.width / 2) < 1);
     const first = await page.locator('.heading').first().boundingBox();
     assert.ok(header.y + header.height <= first.y);
+    const bar = await page.locator('.bar').boundingBox();
+    const icon = await page.locator('.title-view img').boundingBox();
+    assert.ok(icon.y >= bar.y && icon.y + icon.height <= bar.y + bar.height);
   });
