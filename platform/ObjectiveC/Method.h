@@ -87,7 +87,7 @@ template <std::size_t Inherited, std::size_t Own>
 constexpr std::array<Method, Inherited + Own> joined(const std::array<Method, Inherited>& inherited,
                                                      const std::array<Method, Own>& own) {
   std::array<Method, Inherited + Own> all;
-  std::ranges::copy(own, std::ranges::copy(inherited, all.begin()).out);
+  std::copy(own.begin(), own.end(), std::copy(inherited.begin(), inherited.end(), all.begin()));
   return all;
 }
 
