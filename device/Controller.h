@@ -3,6 +3,7 @@
 #import <UIKit/UIKit.h>
 
 #include <memory>
+#include <string_view>
 
 #include "device/Bridge.h"
 #include "platform/ObjectiveC/SEL.h"
@@ -25,26 +26,33 @@
 @property(nonatomic, retain) NSArray *ownSpecifiers;
 @end
 
+/// A controller of the bundle, as the platform knows it: it owns a C++ controller.
+typedef UIViewController<QMController> *QMOwner;
+
 namespace device {
 
 /// The controller that owns this one; nil when its superclass refused.
-::UIViewController<QMController>* native(const platform::UIViewController& controller);
+QMOwner native(const platform::UIViewController& controller);
 
 /// The same of a table's source or a composer's delegate, which are controllers by another name.
 template <class Interface>
-::UIViewController<QMController>* controllerBehind(Interface& interface) {
+QMOwner controllerBehind(Interface& interface) {
   return native(dynamic_cast<platform::UIViewController&>(interface));
 }
 
-/// A new C++ controller for `owner`, one of the bundle's, by its class's name. Not yet initialised.
-std::shared_ptr<platform::UIViewController> makeController(::UIViewController<QMController>* owner);
+/// From now on `owner` owns the controller; nil when its superclass refused.
+void setOwner(platform::UIViewController& controller, QMOwner owner);
+
+/// A new C++ controller of one of the bundle's classes, not yet initialised; null when there is no
+/// such class.
+std::shared_ptr<platform::UIViewController> makeController(std::string_view className);
 
 /// The C++ controller of a controller that nobody else refers to any more; it is released with it.
 /// Null for nil.
 std::shared_ptr<platform::UIViewController> shared(id<QMController> owned);
 
-/// Calls the method that the controller's table has under this selector. What the selector does not
-/// take is ignored.
+/// Calls the method that the controller's table of methods has under this selector; nil when it
+/// answers nothing.
 id call(id<QMController> controller, ::SEL selector, id first = nil, id second = nil);
 
 /// The selector of that name; null for none.

@@ -1,0 +1,7 @@
+#include "device/controllers/Page.h"
+
+QUILLMERE_PAGE(QMColorVC)
+
+@implementation QMColorVC
+#include "device/controllers/Page.inc"
+@end
