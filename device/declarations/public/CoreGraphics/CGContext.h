@@ -1,0 +1,3 @@
+#pragma once
+
+typedef struct CGContext* CGContextRef;

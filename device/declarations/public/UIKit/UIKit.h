@@ -1,0 +1,26 @@
+#pragma once
+
+#import <UIKit/NSIndexPath+UIKitAdditions.h>
+#import <UIKit/NSLayoutAnchor.h>
+#import <UIKit/NSLayoutConstraint.h>
+#import <UIKit/NSText.h>
+#import <UIKit/UIAlertController.h>
+#import <UIKit/UIBarButtonItem.h>
+#import <UIKit/UIColor.h>
+#import <UIKit/UIControl.h>
+#import <UIKit/UIFont.h>
+#import <UIKit/UIGraphics.h>
+#import <UIKit/UIImage.h>
+#import <UIKit/UIImageView.h>
+#import <UIKit/UILabel.h>
+#import <UIKit/UINavigationController.h>
+#import <UIKit/UINavigationItem.h>
+#import <UIKit/UIResponder.h>
+#import <UIKit/UIScrollView.h>
+#import <UIKit/UISwitch.h>
+#import <UIKit/UITableView.h>
+#import <UIKit/UITableViewCell.h>
+#import <UIKit/UITableViewProtocols.h>
+#import <UIKit/UIView.h>
+#import <UIKit/UIViewController.h>
+#import <UIKit/UIVisualEffectView.h>

@@ -1,0 +1,9 @@
+#pragma once
+
+#import <UIKit/UIControl.h>
+
+@interface UISwitch : UIControl
+@property(nonatomic, strong) UIColor *onTintColor;
+@property(nonatomic, getter=isOn) BOOL on;
+- (void)setOn:(BOOL)on animated:(BOOL)animated;
+@end
