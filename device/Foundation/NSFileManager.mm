@@ -1,0 +1,28 @@
+#include "platform/Foundation/NSFileManager.h"
+
+#include "device/Native.h"
+#include "device/Paths.h"
+
+namespace platform {
+
+using device::handle;
+using device::native;
+using device::resolved;
+
+NSFileManager NSFileManager::defaultManager() {
+  return handle<NSFileManager>([::NSFileManager defaultManager]);
+}
+
+NSArray NSFileManager::contentsOfDirectoryAtPath(const NSString& path) const {
+  return handle<NSArray>([native(*this) contentsOfDirectoryAtPath:resolved(path) error:nil]);
+}
+
+bool NSFileManager::fileExistsAtPath(const NSString& path) const {
+  return [native(*this) fileExistsAtPath:resolved(path)];
+}
+
+bool NSFileManager::removeItemAtPath(const NSString& path) const {
+  return [native(*this) removeItemAtPath:resolved(path) error:nil];
+}
+
+}  // namespace platform

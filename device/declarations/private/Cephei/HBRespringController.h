@@ -1,0 +1,7 @@
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+@interface HBRespringController : NSObject
++ (void)respringAndReturnTo:(NSURL *)returnURL;
+@end

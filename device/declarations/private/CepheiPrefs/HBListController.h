@@ -1,0 +1,6 @@
+#pragma once
+
+#import <Preferences/PSListController.h>
+
+@interface HBListController : PSListController
+@end

@@ -1,0 +1,6 @@
+#pragma once
+
+#import <CepheiPrefs/HBListController.h>
+
+@interface HBRootListController : HBListController
+@end
