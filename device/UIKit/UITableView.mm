@@ -26,11 +26,11 @@ UITableView UITableView::initWithFrame(const CGRect& frame, UITableViewStyle sty
 }
 
 void UITableView::setDelegate(UITableViewDelegate& delegate) {
-  [native(*this) setDelegate:(id)device::controllerBehind(delegate)];
+  [native(*this) setDelegate:(id<UITableViewDelegate>)device::controllerBehind(delegate)];
 }
 
 void UITableView::setDataSource(UITableViewDataSource& dataSource) {
-  [native(*this) setDataSource:(id)device::controllerBehind(dataSource)];
+  [native(*this) setDataSource:(id<UITableViewDataSource>)device::controllerBehind(dataSource)];
 }
 
 void UITableView::setSeparatorColor(const UIColor& color) {
