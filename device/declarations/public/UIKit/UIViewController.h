@@ -2,9 +2,12 @@
 
 #import <UIKit/UIResponder.h>
 
-@class UIView;
+@class NSBundle, UIView;
 
 @interface UIViewController : UIResponder
+- (instancetype)initWithNibName:(NSString *)nibNameOrNil
+                         bundle:(NSBundle *)nibBundleOrNil
+    __attribute__((objc_designated_initializer));
 @property(nonatomic, strong) UIView *view;
 - (void)viewDidLoad;
 - (void)viewWillAppear:(BOOL)animated;
