@@ -32,12 +32,14 @@ constexpr Place places[] = {
 };
 
 bool lies(std::string_view path, std::string_view folder) {
-  return path.starts_with(folder) && (path == folder || path[folder.size()] == '/');
+  return !path.empty() && path.starts_with(folder) &&
+         (path == folder || path[folder.size()] == '/');
 }
 
 std::string moved(const std::string& path) {
   for (const Place& place : places) {
-    if (lies(path, place.folder)) return std::string(place.moved) + path.substr(place.folder.size());
+    if (!lies(path, place.folder)) continue;
+    return std::string(place.moved) + path.substr(place.folder.size());
   }
   return path;
 }

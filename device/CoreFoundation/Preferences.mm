@@ -8,7 +8,7 @@ void synchronize(::NSString* domain) {
   // By this name, and not as the current user, does the library that writes know the user: under
   // the other the service would keep a second copy in this process.
   if (domain) {
-    ::CFPreferencesSynchronize((__bridge CFStringRef)domain, (__bridge CFStringRef)@"mobile",
+    ::CFPreferencesSynchronize((__bridge CFStringRef)domain, (__bridge CFStringRef) @"mobile",
                                kCFPreferencesAnyHost);
   }
 }

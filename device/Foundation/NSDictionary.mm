@@ -12,8 +12,7 @@ using device::native;
 
 NSDictionary NSDictionary::dictionaryWithContentsOfFile(const NSString& path) {
   device::synchronizeFile(native(path));
-  return handle<NSDictionary>(
-      [::NSDictionary dictionaryWithContentsOfFile:device::resolved(path)]);
+  return handle<NSDictionary>([::NSDictionary dictionaryWithContentsOfFile:device::resolved(path)]);
 }
 
 Object NSDictionary::objectForKey(const NSString& key) const {

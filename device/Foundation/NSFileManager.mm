@@ -14,7 +14,7 @@ NSFileManager NSFileManager::defaultManager() {
 }
 
 NSArray NSFileManager::contentsOfDirectoryAtPath(const NSString& path) const {
-  return handle<NSArray>([native(*this) contentsOfDirectoryAtPath:resolved(path) error:nil]);
+  return handle<NSArray>([native(*this) contentsOfDirectoryAtPath:resolved(path) error:nullptr]);
 }
 
 bool NSFileManager::fileExistsAtPath(const NSString& path) const {
@@ -22,7 +22,7 @@ bool NSFileManager::fileExistsAtPath(const NSString& path) const {
 }
 
 bool NSFileManager::removeItemAtPath(const NSString& path) const {
-  return [native(*this) removeItemAtPath:resolved(path) error:nil];
+  return [native(*this) removeItemAtPath:resolved(path) error:nullptr];
 }
 
 }  // namespace platform

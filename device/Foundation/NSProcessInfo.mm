@@ -8,8 +8,7 @@ NSProcessInfo NSProcessInfo::processInfo() {
   return device::handle<NSProcessInfo>([::NSProcessInfo processInfo]);
 }
 
-bool NSProcessInfo::isOperatingSystemAtLeastVersion(
-    const NSOperatingSystemVersion& version) const {
+bool NSProcessInfo::isOperatingSystemAtLeastVersion(const NSOperatingSystemVersion& version) const {
   return [device::native(*this)
       isOperatingSystemAtLeastVersion:{version.majorVersion, version.minorVersion,
                                        version.patchVersion}];

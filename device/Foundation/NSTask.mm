@@ -1,8 +1,9 @@
+#include "platform/Foundation/NSTask.h"
+
 #import <Foundation/NSTask.h>
 
 #include "device/Native.h"
 #include "device/Paths.h"
-#include "platform/Foundation/NSTask.h"
 
 namespace platform {
 

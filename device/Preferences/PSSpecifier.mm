@@ -31,14 +31,13 @@ static_assert(long(PSCellType::PSEditTextViewCell) == ::PSEditTextViewCell);
 PSSpecifier PSSpecifier::preferenceSpecifierNamed(const NSString& name, PSListController& target,
                                                   SEL set, SEL get, const Class& detail,
                                                   PSCellType cell, const Class& edit) {
-  return handle<PSSpecifier>([::PSSpecifier
-      preferenceSpecifierNamed:native(name)
-                        target:native(target)
-                           set:device::selector(set)
-                           get:device::selector(get)
-                        detail:(::Class)object(detail)
-                          cell:static_cast<::PSCellType>(cell)
-                          edit:(::Class)object(edit)]);
+  return handle<PSSpecifier>([::PSSpecifier preferenceSpecifierNamed:native(name)
+                                                              target:native(target)
+                                                                 set:device::selector(set)
+                                                                 get:device::selector(get)
+                                                              detail:(::Class)object(detail)
+                                                                cell:static_cast<::PSCellType>(cell)
+                                                                edit:(::Class)object(edit)]);
 }
 
 PSSpecifier PSSpecifier::groupSpecifierWithName(const NSString& name) {

@@ -3,9 +3,9 @@
 #import <Foundation/Foundation.h>
 
 @interface HBPreferences : NSObject
-- (instancetype)initWithIdentifier:(NSString *)identifier;
-@property(nonatomic, retain, readonly) NSString *identifier;
-- (id)objectForKey:(NSString *)key;
-- (void)setObject:(id)value forKey:(NSString *)key;
+- (instancetype)initWithIdentifier:(NSString*)identifier;
+@property(nonatomic, retain, readonly) NSString* identifier;
+- (id)objectForKey:(NSString*)key;
+- (void)setObject:(id)value forKey:(NSString*)key;
 - (void)removeAllObjects;
 @end

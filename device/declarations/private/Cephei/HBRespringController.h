@@ -3,5 +3,5 @@
 #import <Foundation/Foundation.h>
 
 @interface HBRespringController : NSObject
-+ (void)respringAndReturnTo:(NSURL *)returnURL;
++ (void)respringAndReturnTo:(NSURL*)returnURL;
 @end

@@ -5,5 +5,6 @@
 @class HBAppearanceSettings;
 
 @interface PSListController (HBTintAdditions)
-@property(nonatomic, copy, setter=hb_setAppearanceSettings:) HBAppearanceSettings *hb_appearanceSettings;
+@property(nonatomic, copy, setter=hb_setAppearanceSettings:)
+    HBAppearanceSettings* hb_appearanceSettings;
 @end

@@ -5,8 +5,8 @@
 #import <Foundation/Foundation.h>
 
 @interface NSTask : NSObject
-@property(copy) NSString *launchPath;
-@property(copy) NSArray<NSString *> *arguments;
+@property(copy) NSString* launchPath;
+@property(copy) NSArray<NSString*>* arguments;
 /// An NSPipe or an NSFileHandle.
 @property(retain) id standardOutput;
 /// Raises NSInvalidArgumentException when the program cannot be started.

@@ -3,9 +3,9 @@
 #import <Preferences/PSViewController.h>
 
 @interface PSListController : PSViewController <UITableViewDelegate, UITableViewDataSource> {
-  NSMutableArray *_specifiers;
+  NSMutableArray* _specifiers;
 }
-@property(nonatomic, retain) NSMutableArray *specifiers;
-@property(nonatomic, retain) UITableView *table;
-- (NSMutableArray *)loadSpecifiersFromPlistName:(NSString *)name target:(PSListController *)target;
+@property(nonatomic, retain) NSMutableArray* specifiers;
+@property(nonatomic, retain) UITableView* table;
+- (NSMutableArray*)loadSpecifiersFromPlistName:(NSString*)name target:(PSListController*)target;
 @end

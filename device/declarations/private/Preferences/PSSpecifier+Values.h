@@ -4,5 +4,5 @@
 
 /// The class has it, but headers that others have written down often leave it out.
 @interface PSSpecifier (Values)
-- (void)setValues:(NSArray *)values titles:(NSArray *)titles;
+- (void)setValues:(NSArray*)values titles:(NSArray*)titles;
 @end

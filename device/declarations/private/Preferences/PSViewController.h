@@ -5,6 +5,6 @@
 @class PSSpecifier;
 
 @interface PSViewController : UIViewController
-- (id)readPreferenceValue:(PSSpecifier *)specifier;
-- (void)setPreferenceValue:(id)value specifier:(PSSpecifier *)specifier;
+- (id)readPreferenceValue:(PSSpecifier*)specifier;
+- (void)setPreferenceValue:(id)value specifier:(PSSpecifier*)specifier;
 @end

@@ -4,18 +4,19 @@
 // SDK.
 
 typedef unsigned char Boolean;
-typedef const void *CFTypeRef;
-typedef const struct __attribute__((objc_bridge(NSString))) __CFString *CFStringRef;
-typedef const struct __attribute__((objc_bridge(NSDictionary))) __CFDictionary *CFDictionaryRef;
+typedef const void* CFTypeRef;
+typedef const struct __attribute__((objc_bridge(NSString))) __CFString* CFStringRef;
+typedef const struct __attribute__((objc_bridge(NSDictionary))) __CFDictionary* CFDictionaryRef;
 
 extern "C" {
 
-typedef struct __attribute__((objc_bridge_mutable(id))) __CFNotificationCenter *CFNotificationCenterRef;
+typedef struct __attribute__((objc_bridge_mutable(id)))
+__CFNotificationCenter* CFNotificationCenterRef;
 typedef CFStringRef CFNotificationName;
 
 CFNotificationCenterRef CFNotificationCenterGetDarwinNotifyCenter(void);
 void CFNotificationCenterPostNotification(CFNotificationCenterRef center, CFNotificationName name,
-                                          const void *object, CFDictionaryRef userInfo,
+                                          const void* object, CFDictionaryRef userInfo,
                                           Boolean deliverImmediately);
 
 extern const CFStringRef kCFPreferencesAnyHost;

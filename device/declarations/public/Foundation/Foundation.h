@@ -18,11 +18,11 @@ typedef double NSTimeInterval;
 typedef struct _NSZone NSZone;
 
 @protocol NSCopying
-- (id)copyWithZone:(NSZone *)zone;
+- (id)copyWithZone:(NSZone*)zone;
 @end
 
 @protocol NSMutableCopying
-- (id)mutableCopyWithZone:(NSZone *)zone;
+- (id)mutableCopyWithZone:(NSZone*)zone;
 @end
 
 #import <Foundation/NSArray.h>
@@ -32,10 +32,11 @@ typedef struct _NSZone NSZone;
 #import <Foundation/NSString.h>
 #import <Foundation/NSValue.h>
 
-typedef NSString *NSExceptionName;
+typedef NSString* NSExceptionName;
+__attribute__((__objc_exception__))
 @interface NSException : NSObject <NSCopying>
 @property(readonly, copy) NSExceptionName name;
-@property(readonly, copy) NSString *reason;
+@property(readonly, copy) NSString* reason;
 @end
 
 @interface NSError : NSObject <NSCopying>
@@ -45,7 +46,7 @@ typedef NSString *NSExceptionName;
 @end
 
 @interface NSURL : NSObject <NSCopying>
-+ (instancetype)URLWithString:(NSString *)URLString;
++ (instancetype)URLWithString:(NSString*)URLString;
 @end
 
 @interface NSIndexPath : NSObject <NSCopying>
@@ -58,11 +59,11 @@ typedef struct {
 } NSOperatingSystemVersion;
 
 @interface NSProcessInfo : NSObject
-@property(class, readonly, strong) NSProcessInfo *processInfo;
+@property(class, readonly, strong) NSProcessInfo* processInfo;
 - (BOOL)isOperatingSystemAtLeastVersion:(NSOperatingSystemVersion)version;
 @end
 
-FOUNDATION_EXPORT NSString *NSStringFromClass(Class aClass);
-FOUNDATION_EXPORT Class NSClassFromString(NSString *aClassName);
-FOUNDATION_EXPORT NSString *NSStringFromSelector(SEL aSelector);
-FOUNDATION_EXPORT SEL NSSelectorFromString(NSString *aSelectorName);
+FOUNDATION_EXPORT NSString* NSStringFromClass(Class aClass);
+FOUNDATION_EXPORT Class NSClassFromString(NSString* aClassName);
+FOUNDATION_EXPORT NSString* NSStringFromSelector(SEL aSelector);
+FOUNDATION_EXPORT SEL NSSelectorFromString(NSString* aSelectorName);

@@ -4,13 +4,14 @@
 
 @class NSString;
 
-@interface NSDictionary <__covariant KeyType, __covariant ObjectType> : NSObject <NSCopying, NSMutableCopying>
+@interface NSDictionary<__covariant KeyType, __covariant ObjectType>
+    : NSObject <NSCopying, NSMutableCopying>
 - (ObjectType)objectForKey:(KeyType)aKey;
-- (BOOL)writeToFile:(NSString *)path atomically:(BOOL)useAuxiliaryFile;
-+ (NSDictionary<KeyType, ObjectType> *)dictionaryWithContentsOfFile:(NSString *)path;
+- (BOOL)writeToFile:(NSString*)path atomically:(BOOL)useAuxiliaryFile;
++ (NSDictionary<KeyType, ObjectType>*)dictionaryWithContentsOfFile:(NSString*)path;
 @end
 
 @interface NSMutableDictionary<KeyType, ObjectType> : NSDictionary <KeyType, ObjectType>
 - (void)setObject:(ObjectType)anObject forKey:(KeyType<NSCopying>)aKey;
-- (NSMutableDictionary<KeyType, ObjectType> *)initWithContentsOfFile:(NSString *)path;
+- (NSMutableDictionary<KeyType, ObjectType>*)initWithContentsOfFile:(NSString*)path;
 @end

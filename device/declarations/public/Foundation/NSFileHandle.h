@@ -5,12 +5,12 @@
 @class NSData;
 
 @interface NSFileHandle : NSObject
-- (NSData *)readDataToEndOfFile;
+- (NSData*)readDataToEndOfFile;
 - (void)closeFile;
 @end
 
 @interface NSPipe : NSObject
-@property(readonly, retain) NSFileHandle *fileHandleForReading;
-@property(readonly, retain) NSFileHandle *fileHandleForWriting;
-+ (NSPipe *)pipe;
+@property(readonly, retain) NSFileHandle* fileHandleForReading;
+@property(readonly, retain) NSFileHandle* fileHandleForWriting;
++ (NSPipe*)pipe;
 @end

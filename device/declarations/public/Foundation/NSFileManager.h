@@ -5,8 +5,8 @@
 @class NSArray<__covariant ObjectType>, NSError, NSString;
 
 @interface NSFileManager : NSObject
-@property(class, readonly, strong) NSFileManager *defaultManager;
-- (NSArray<NSString *> *)contentsOfDirectoryAtPath:(NSString *)path error:(NSError **)error;
-- (BOOL)fileExistsAtPath:(NSString *)path;
-- (BOOL)removeItemAtPath:(NSString *)path error:(NSError **)error;
+@property(class, readonly, strong) NSFileManager* defaultManager;
+- (NSArray<NSString*>*)contentsOfDirectoryAtPath:(NSString*)path error:(NSError**)error;
+- (BOOL)fileExistsAtPath:(NSString*)path;
+- (BOOL)removeItemAtPath:(NSString*)path error:(NSError**)error;
 @end

@@ -6,7 +6,7 @@
 @end
 
 @interface NSNumber : NSValue
-+ (NSNumber *)numberWithBool:(BOOL)value;
-+ (NSNumber *)numberWithInt:(int)value;
++ (NSNumber*)numberWithBool:(BOOL)value;
++ (NSNumber*)numberWithInt:(int)value;
 @property(readonly) BOOL boolValue;
 @end

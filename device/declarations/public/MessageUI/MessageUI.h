@@ -15,17 +15,17 @@ typedef NS_ENUM(NSInteger, MFMailComposeResult) {
 
 @interface MFMailComposeViewController : UINavigationController
 @property(nonatomic, weak) id<MFMailComposeViewControllerDelegate> mailComposeDelegate;
-- (void)setSubject:(NSString *)subject;
-- (void)setToRecipients:(NSArray<NSString *> *)toRecipients;
-- (void)setMessageBody:(NSString *)body isHTML:(BOOL)isHTML;
-- (void)addAttachmentData:(NSData *)attachment
-                 mimeType:(NSString *)mimeType
-                 fileName:(NSString *)filename;
+- (void)setSubject:(NSString*)subject;
+- (void)setToRecipients:(NSArray<NSString*>*)toRecipients;
+- (void)setMessageBody:(NSString*)body isHTML:(BOOL)isHTML;
+- (void)addAttachmentData:(NSData*)attachment
+                 mimeType:(NSString*)mimeType
+                 fileName:(NSString*)filename;
 @end
 
 @protocol MFMailComposeViewControllerDelegate <NSObject>
 @optional
-- (void)mailComposeController:(MFMailComposeViewController *)controller
+- (void)mailComposeController:(MFMailComposeViewController*)controller
           didFinishWithResult:(MFMailComposeResult)result
-                        error:(NSError *)error;
+                        error:(NSError*)error;
 @end
