@@ -15,7 +15,7 @@ if(NOT CMAKE_HOST_APPLE)
     # These headers are newer than the phone's library: what they declare as templates is made here
     # instead of being taken from there, where the oldest phones lack some of it.
     set(CMAKE_${language}_FLAGS_INIT
-      "-stdlib=libc++ -D_LIBCPP_DISABLE_AVAILABILITY -D_LIBCPP_DISABLE_EXTERN_TEMPLATE")
+      "-stdlib=libc++ -D_LIBCPP_DISABLE_EXTERN_TEMPLATE")
   endforeach()
   set(CMAKE_MODULE_LINKER_FLAGS_INIT -fuse-ld=lld)
   set(CMAKE_AR ${llvm}/llvm-ar CACHE FILEPATH "")
