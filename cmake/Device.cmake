@@ -14,11 +14,11 @@ if(NOT CMAKE_HOST_APPLE)
     set(CMAKE_${language}_COMPILER_TARGET arm64-apple-ios)
     # These headers are newer than the phone's library: what they declare as templates is made here
     # instead of being taken from there, where the oldest phones lack some of it.
-    set(CMAKE_${language}_FLAGS_INIT
-      "-stdlib=libc++ -D_LIBCPP_DISABLE_EXTERN_TEMPLATE")
+    set(CMAKE_${language}_FLAGS_INIT "-stdlib=libc++ -D_LIBCPP_DISABLE_EXTERN_TEMPLATE")
   endforeach()
   set(CMAKE_MODULE_LINKER_FLAGS_INIT -fuse-ld=lld)
   set(CMAKE_AR ${llvm}/llvm-ar CACHE FILEPATH "")
   set(CMAKE_RANLIB ${llvm}/llvm-ranlib CACHE FILEPATH "")
+  set(CMAKE_STRIP ${llvm}/llvm-strip CACHE FILEPATH "")
   set(CMAKE_INSTALL_NAME_TOOL ${llvm}/llvm-install-name-tool CACHE FILEPATH "")
 endif()
