@@ -5,6 +5,7 @@
 #include "desktop/Overloaded.h"
 #include "tests/support/DesktopState.h"
 #include "tests/support/Driver.h"
+#include "tests/support/Record.h"
 
 namespace support {
 
@@ -48,7 +49,7 @@ std::string shownBy(const desktop::AnyCell& any) {
 }  // namespace
 
 Driver::Driver() : state_(std::make_unique<State>()) { forget(); }
-Driver::~Driver() = default;
+Driver::~Driver() { record(journal()); }
 
 void Driver::tap(const std::string& label) {
   state_
@@ -209,6 +210,7 @@ void Driver::putPhoneFile(const std::string& path, const std::string& bytes) {
 std::vector<std::string> Driver::journal() const { return state_->phone.journal.lines(); }
 
 void Driver::forget() {
+  record(journal());
   state_->phone.journal.clear();
   state_->posted.clear();
   state_->reports.clear();

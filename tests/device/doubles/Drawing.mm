@@ -1,0 +1,127 @@
+#import <QuartzCore/QuartzCore.h>
+#import <UIKit/UIKit.h>
+
+#include "platform/UIKit/NSLayoutConstraint.h"
+#include "platform/UIKit/UIColor.h"
+#include "platform/UIKit/UIFont.h"
+#include "platform/UIKit/UIGraphics.h"
+#include "platform/UIKit/UIImage.h"
+#include "platform/QuartzCore/CALayer.h"
+#include "tests/device/doubles/Double.h"
+#include "tests/device/doubles/Geometry.h"
+
+using doubles::handle;
+using doubles::object;
+using doubles::rect;
+
+/// Core Graphics' references are objects to the run time.
+@interface DoubleCGColor : NSObject
+@end
+@implementation DoubleCGColor
+- (void)dealloc {
+  doubles::forget(self);
+  [super dealloc];
+}
+@end
+@interface DoubleCGContext : NSObject
+@end
+@implementation DoubleCGContext
+- (void)dealloc {
+  doubles::forget(self);
+  [super dealloc];
+}
+@end
+
+@implementation UIColor
+
+- (void)dealloc {
+  doubles::forget(self);
+  [super dealloc];
+}
++ (UIColor *)colorWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha {
+  return object(platform::UIColor::colorWithRed(red, green, blue, alpha));
+}
++ (UIColor *)whiteColor { return object(platform::UIColor::whiteColor()); }
++ (UIColor *)clearColor { return object(platform::UIColor::clearColor()); }
+- (CGColorRef)CGColor { return (CGColorRef)object(handle<platform::UIColor>(self).CGColor()); }
+
+@end
+
+@implementation UIFont
+- (void)dealloc {
+  doubles::forget(self);
+  [super dealloc];
+}
++ (UIFont *)boldSystemFontOfSize:(CGFloat)size { return object(platform::UIFont::boldSystemFontOfSize(size)); }
+@end
+
+@implementation UIImage
+
+- (void)dealloc {
+  doubles::forget(self);
+  [super dealloc];
+}
++ (UIImage *)imageWithContentsOfFile:(NSString *)path {
+  return object(platform::UIImage::imageWithContentsOfFile(handle<platform::NSString>(path)));
+}
+- (UIImage *)imageWithRenderingMode:(UIImageRenderingMode)mode {
+  return object(handle<platform::UIImage>(self).imageWithRenderingMode(platform::UIImageRenderingMode(mode)));
+}
+- (void)drawInRect:(CGRect)area { handle<platform::UIImage>(self).drawInRect(rect(area)); }
+
+@end
+
+@implementation CALayer
+
+- (void)dealloc {
+  doubles::forget(self);
+  [super dealloc];
+}
+
+static platform::CALayer own(CALayer *self) { return handle<platform::CALayer>(self); }
+
+- (void)setBorderWidth:(CGFloat)width { own(self).setBorderWidth(width); }
+- (void)setBorderColor:(CGColorRef)color { own(self).setBorderColor(handle<platform::CGColor>((id)color)); }
+- (void)setCornerRadius:(CGFloat)radius { own(self).setCornerRadius(radius); }
+- (void)renderInContext:(CGContextRef)context { own(self).renderInContext(handle<platform::CGContext>((id)context)); }
+
+@end
+
+void UIGraphicsBeginImageContextWithOptions(CGSize size, BOOL opaque, CGFloat scale) {
+  platform::UIGraphicsBeginImageContextWithOptions({size.width, size.height}, platform::Opaque(bool(opaque)), scale);
+}
+CGContextRef UIGraphicsGetCurrentContext() { return (CGContextRef)object(platform::UIGraphicsGetCurrentContext()); }
+UIImage *UIGraphicsGetImageFromCurrentImageContext() {
+  return object(platform::UIGraphicsGetImageFromCurrentImageContext());
+}
+void UIGraphicsEndImageContext() { platform::UIGraphicsEndImageContext(); }
+
+@implementation NSLayoutAnchor
+
+- (void)dealloc {
+  doubles::forget(self);
+  [super dealloc];
+}
+- (NSLayoutConstraint *)constraintEqualToAnchor:(NSLayoutAnchor *)anchor {
+  return object(handle<platform::NSLayoutAnchor>(self).constraintEqualToAnchor(handle<platform::NSLayoutAnchor>(anchor)));
+}
+
+@end
+
+@implementation NSLayoutConstraint
+
+- (void)dealloc {
+  doubles::forget(self);
+  [super dealloc];
+}
++ (void)activateConstraints:(NSArray *)constraints {
+  // A written list has a length that is known: the four edges of two views.
+  NSAssert([constraints count] == 8, @"the bundle activates eight constraints at once");
+  const auto constraint = [&](NSUInteger index) {
+    return handle<platform::NSLayoutConstraint>([constraints objectAtIndex:index]);
+  };
+  platform::NSLayoutConstraint::activateConstraints({constraint(0), constraint(1), constraint(2), constraint(3),
+                                                     constraint(4), constraint(5), constraint(6), constraint(7)});
+}
+
+@end

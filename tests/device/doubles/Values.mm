@@ -1,0 +1,124 @@
+#include "tests/device/doubles/Values.h"
+
+#include <cstring>
+#include <vector>
+
+#include "desktop/Foundation/ArrayBody.h"
+#include "desktop/Foundation/DictionaryBody.h"
+#include "desktop/Foundation/PredicateBody.h"
+#include "desktop/Foundation/URLBody.h"
+#include "desktop/Foundation/ValueBody.h"
+#include "desktop/Foundation/Values.h"
+#include "desktop/ObjectiveC/ClassBody.h"
+#include "tests/device/doubles/Double.h"
+
+namespace doubles {
+
+namespace {
+
+/// An object of the program's own, of which the stand-in knows no more than its class.
+class ForeignBody : public desktop::Body {
+ public:
+  explicit ForeignBody(id object) : name_(object_getClassName(object)) {}
+  std::string_view className() const override { return name_; }
+
+ private:
+  const char* name_;
+};
+
+std::string_view bytesOf(NSData* data) {
+  return {static_cast<const char*>([data bytes]), [data length]};
+}
+
+plist::Value numberValue(NSNumber* number) {
+  if (number == [NSNumber numberWithBool:YES]) return plist::Value(true);
+  if (number == [NSNumber numberWithBool:NO]) return plist::Value(false);
+  switch (*[number objCType]) {
+    case 'd':
+      return plist::Value::real([number doubleValue]);
+    case 'f':
+      return plist::Value::real([number floatValue]);
+    case 'Q':
+      return plist::Value::integer([number unsignedLongLongValue]);
+    default:
+      return plist::Value::integer([number longLongValue]);
+  }
+}
+
+platform::Object value(const plist::Value& value) { return desktop::box(value); }
+
+platform::Object arrayHandle(NSArray* array) {
+  using desktop::ArrayBody;
+  std::vector<platform::Object> elements;
+  for (id element in array) elements.push_back(handle(element));
+  const bool isMutable = [array isKindOfClass:[NSMutableArray class]];
+  return desktop::make<platform::Object, ArrayBody>(std::move(elements), ArrayBody::Mutable(isMutable));
+}
+
+platform::Object dictionaryHandle(NSDictionary* dictionary) {
+  using desktop::DictionaryBody;
+  plist::Dictionary contents;
+  for (NSString* key in dictionary) {
+    contents.set([key UTF8String], desktop::unbox(handle([dictionary objectForKey:key])));
+  }
+  const bool isMutable = [dictionary isKindOfClass:[NSMutableDictionary class]];
+  return desktop::make<platform::Object, DictionaryBody>(std::move(contents), DictionaryBody::Mutable(isMutable));
+}
+
+NSString* text(std::string_view utf8) {
+  return [[[NSString alloc] initWithBytes:utf8.data() length:utf8.size() encoding:NSUTF8StringEncoding] autorelease];
+}
+
+id scalarObject(const plist::Value& value) {
+  if (const auto string = value.string()) return text(*string);
+  if (const auto truth = value.boolean()) return [NSNumber numberWithBool:*truth];
+  if (const auto integer = value.integer()) return [NSNumber numberWithLongLong:*integer];
+  if (const auto large = value.unsignedInteger()) return [NSNumber numberWithUnsignedLongLong:*large];
+  if (const auto single = value.singleReal()) return [NSNumber numberWithFloat:*single];
+  if (const auto real = value.real()) return [NSNumber numberWithDouble:*real];
+  if (const auto date = value.date()) return [NSDate dateWithTimeIntervalSinceReferenceDate:*date];
+  if (const auto data = value.data()) return [NSData dataWithBytes:data->data() length:data->size()];
+  return nil;
+}
+
+id arrayObject(const desktop::ArrayBody& body) {
+  NSMutableArray* elements = [NSMutableArray array];
+  for (const platform::Object& element : body.objects) [elements addObject:object(element)];
+  return body.className() == "NSMutableArray" ? elements : [NSArray arrayWithArray:elements];
+}
+
+id dictionaryObject(const desktop::DictionaryBody& body) {
+  NSMutableDictionary* entries = [NSMutableDictionary dictionary];
+  for (const auto& entry : body.dictionary) {
+    [entries setObject:object(desktop::box(entry.value())) forKey:text(entry.key())];
+  }
+  return body.className() == "NSMutableDictionary" ? entries : [NSDictionary dictionaryWithDictionary:entries];
+}
+
+}  // namespace
+
+platform::Object valueHandle(id object) {
+  using desktop::make;
+  using platform::Object;
+  if (object_getClass(object) && class_isMetaClass(object_getClass(object))) {
+    return make<Object, desktop::ClassBody>(class_getName((Class)object));
+  }
+  if ([object isKindOfClass:[NSString class]]) return value(plist::Value::string([object UTF8String]));
+  if ([object isKindOfClass:[NSNumber class]]) return value(numberValue(object));
+  if ([object isKindOfClass:[NSData class]]) return value(plist::Value::data(bytesOf(object)));
+  if ([object isKindOfClass:[NSDate class]]) return value(plist::Value::date([object timeIntervalSinceReferenceDate]));
+  if ([object isKindOfClass:[NSArray class]]) return arrayHandle(object);
+  if ([object isKindOfClass:[NSDictionary class]]) return dictionaryHandle(object);
+  if ([object isKindOfClass:[NSURL class]]) return make<Object, desktop::URLBody>([[object absoluteString] UTF8String]);
+  return make<Object, ForeignBody>(object);
+}
+
+id valueObject(const platform::Object& handle) {
+  if (auto* value = desktop::bodyAs<desktop::ValueBody>(handle)) return scalarObject(value->value);
+  if (auto* array = desktop::bodyAs<desktop::ArrayBody>(handle)) return arrayObject(*array);
+  if (auto* dictionary = desktop::bodyAs<desktop::DictionaryBody>(handle)) return dictionaryObject(*dictionary);
+  if (auto* known = desktop::bodyAs<desktop::ClassBody>(handle)) return (id)objc_lookUpClass(known->name.c_str());
+  return nil;
+}
+
+}  // namespace doubles
