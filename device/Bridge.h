@@ -48,7 +48,9 @@ Handle adopt(id owned) {
   return platform::Backend::adopt<Handle>(owned);
 }
 /// The object, which outlives the handle until the platform's event is over: what a method returns.
-inline id autoreleased(const platform::Object& handle) { return [[object(handle) retain] autorelease]; }
+inline id autoreleased(const platform::Object& handle) {
+  return [[object(handle) retain] autorelease];
+}
 #endif
 /// @}
 

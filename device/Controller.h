@@ -1,7 +1,6 @@
 #pragma once
 
 #import <UIKit/UIKit.h>
-
 #include <memory>
 #include <string_view>
 
@@ -12,7 +11,7 @@
 /// What each of the bundle's controllers answers besides its messages: the C++ controller that it
 /// owns, and what its superclass does, which only its own methods can ask for.
 @protocol QMController <NSObject>
-- (const std::shared_ptr<platform::UIViewController> &)controller;
+- (const std::shared_ptr<platform::UIViewController>&)ownedController;
 - (instancetype)initAsSuperclass;
 - (void)viewDidLoadAsSuperclass;
 - (void)viewWillAppearAsSuperclass:(BOOL)animated;
@@ -21,13 +20,13 @@
 
 /// The same of those that show a list.
 @protocol QMListController <QMController>
-- (NSArray *)specifiersAsSuperclass;
+- (NSArray*)specifiersAsSuperclass;
 /// The list controller's own instance variable for its rows.
-@property(nonatomic, retain) NSArray *ownSpecifiers;
+@property(nonatomic, retain) NSArray* ownSpecifiers;
 @end
 
 /// A controller of the bundle, as the platform knows it: it owns a C++ controller.
-typedef UIViewController<QMController> *QMOwner;
+typedef UIViewController<QMController>* QMOwner;
 
 namespace device {
 

@@ -38,15 +38,15 @@ std::shared_ptr<platform::UIViewController> makeController(std::string_view clas
 
 std::shared_ptr<platform::UIViewController> shared(id<QMController> owned) {
   if (!owned) return nullptr;
-  return {[owned controller].get(), [kept = adopt<platform::Object>(owned)](auto*) {}};
+  return {[owned ownedController].get(), [kept = adopt<platform::Object>(owned)](auto*) {}};
 }
 
 id call(id<QMController> controller, ::SEL selector, id first, id second) {
-  platform::UIViewController& self = *[controller controller];
+  platform::UIViewController& self = *[controller ownedController];
   for (const platform::Method& method : self.methods()) {
     if (method.selector.name == sel_getName(selector)) {
-      return autoreleased(method.invoke(self, handle<platform::Object>(first),
-                                        handle<platform::Object>(second)));
+      return autoreleased(
+          method.invoke(self, handle<platform::Object>(first), handle<platform::Object>(second)));
     }
   }
   return nil;

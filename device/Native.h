@@ -3,14 +3,14 @@
 #include "device/Bridge.h"
 
 /// Which class of the frameworks a handle's class stands for: the one of the same name.
-#define QUILLMERE_NATIVE(Name)              \
-  @class Name;                              \
-  namespace platform {                      \
-  class Name;                               \
-  }                                         \
-  template <>                               \
-  struct device::Native<platform::Name> {   \
-    using Class = ::Name;                   \
+#define QUILLMERE_NATIVE(Name)            \
+  @class Name;                            \
+  namespace platform {                    \
+  class Name;                             \
+  }                                       \
+  template <>                             \
+  struct device::Native<platform::Name> { \
+    using Class = ::Name;                 \
   }
 
 QUILLMERE_NATIVE(NSArray);

@@ -21,9 +21,9 @@ using desktop::AnchorBody;
 using desktop::ConstraintBody;
 
 NSLayoutConstraint NSLayoutAnchor::constraintEqualToAnchor(const NSLayoutAnchor& anchor) const {
+  if (!anchor) return {};
   return desktop::send<AnchorBody>(*this, "constraintEqualToAnchor:", {anchor}, [&](AnchorBody&) {
-    return anchor ? desktop::make<NSLayoutConstraint, ConstraintBody>(*this, anchor)
-                  : NSLayoutConstraint();
+    return desktop::make<NSLayoutConstraint, ConstraintBody>(*this, anchor);
   });
 }
 

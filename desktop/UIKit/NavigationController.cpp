@@ -68,10 +68,10 @@ void UINavigationController::pushViewController(std::shared_ptr<UIViewController
 }
 
 void UINavigationController::presentViewController(const Object& controller, Animated animated) {
+  if (!controller) return;
   send<NavigationBody>(*this, "presentViewController:animated:completion:",
-                       {controller, animated == Animated::Yes, "nil"}, [&](NavigationBody& self) {
-                         if (controller) self.stack.present(controller);
-                       });
+                       {controller, animated == Animated::Yes, "nil"},
+                       [&](NavigationBody& self) { self.stack.present(controller); });
 }
 
 }  // namespace platform

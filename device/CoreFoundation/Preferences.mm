@@ -14,7 +14,8 @@ void synchronize(::NSString* domain) {
 }
 
 void synchronizeFile(::NSString* path) {
-  synchronize([[path lastPathComponent] stringByDeletingPathExtension]);
+  if (path)
+    synchronize([[[NSURL fileURLWithPath:path] URLByDeletingPathExtension] lastPathComponent]);
 }
 
 }  // namespace device

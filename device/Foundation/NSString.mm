@@ -20,7 +20,8 @@ NSString NSString::stringWithFormat(const char* format, std::initializer_list<Ob
   // What a format does not use is passed in vain, which is harmless.
   assert(arguments.size() <= 4);
   id passed[4] = {};
-  for (std::size_t index = 0; index < arguments.size(); ++index) passed[index] = object(arguments.begin()[index]);
+  for (std::size_t index = 0; index < arguments.size(); ++index)
+    passed[index] = object(arguments.begin()[index]);
   return handle<NSString>([::NSString
       stringWithFormat:native(NSString(format)), passed[0], passed[1], passed[2], passed[3]]);
 }

@@ -5,7 +5,7 @@
 #include "device/Controller.h"
 #include "device/Native.h"
 
-typedef PSListController<QMListController> *QMListOwner;
+typedef PSListController<QMListController>* QMListOwner;
 
 namespace platform {
 

@@ -1,6 +1,7 @@
 #include "platform/UIKit/NSLayoutConstraint.h"
 
 #import <UIKit/UIKit.h>
+#include <vector>
 
 #include "device/Native.h"
 
@@ -11,11 +12,12 @@ using device::native;
 
 void NSLayoutConstraint::activateConstraints(
     std::initializer_list<NSLayoutConstraint> constraints) {
-  ::NSMutableArray* rules = [::NSMutableArray array];
+  std::vector<id> rules;
   for (const NSLayoutConstraint& constraint : constraints) {
-    if (constraint) [rules addObject:native(constraint)];
+    if (constraint) rules.push_back(native(constraint));
   }
-  [::NSLayoutConstraint activateConstraints:rules];
+  [::NSLayoutConstraint activateConstraints:[::NSArray arrayWithObjects:rules.data()
+                                                                  count:rules.size()]];
 }
 
 NSLayoutConstraint NSLayoutAnchor::constraintEqualToAnchor(const NSLayoutAnchor& anchor) const {

@@ -8,8 +8,8 @@
 
 /// Declares one of the bundle's pages. The classes are static, so that the platform finds the
 /// bundle, and in it the list resources, by them.
-#define QUILLMERE_PAGE(Name)                                          \
-  @interface Name : HBRootListController <QMListController> {         \
-    std::shared_ptr<platform::UIViewController>* _controller;         \
-  }                                                                   \
+#define QUILLMERE_PAGE(Name)                                  \
+  @interface Name : HBRootListController <QMListController> { \
+    std::shared_ptr<platform::UIViewController>* _controller; \
+  }                                                           \
   @end

@@ -7,35 +7,63 @@
 QUILLMERE_PAGE(QMRoot)
 
 @interface QMRoot () <MFMailComposeViewControllerDelegate>
-@property(nonatomic, retain) UILabel *titleLabel;
-@property(nonatomic, retain) UIImageView *iconView;
-@property(nonatomic, retain) UISwitch *enableSwitch;
+@property(nonatomic, retain) UILabel* titleLabel;
+@property(nonatomic, retain) UIImageView* iconView;
+@property(nonatomic, retain) UISwitch* enableSwitch;
 @end
 
 @implementation QMRoot
 #include "device/controllers/Page.inc"
 
-- (void)lottiesList { device::call(self, _cmd); }
-- (void)toggleState { device::call(self, _cmd); }
-- (void)setEnableSwitchState { device::call(self, _cmd); }
-- (void)respring { device::call(self, _cmd); }
-- (void)respringAfterEnable { device::call(self, _cmd); }
-- (void)resetPreferences { device::call(self, _cmd); }
-- (void)presentSupportMailController:(id)sender { device::call(self, _cmd, sender); }
-- (void)scrollViewDidScroll:(UIScrollView *)scrollView { device::call(self, _cmd, scrollView); }
+- (void)lottiesList {
+  device::call(self, _cmd);
+}
+- (void)toggleState {
+  device::call(self, _cmd);
+}
+- (void)setEnableSwitchState {
+  device::call(self, _cmd);
+}
+- (void)respring {
+  device::call(self, _cmd);
+}
+- (void)respringAfterEnable {
+  device::call(self, _cmd);
+}
+- (void)resetPreferences {
+  device::call(self, _cmd);
+}
+- (void)presentSupportMailController:(id)sender {
+  device::call(self, _cmd, sender);
+}
+- (void)scrollViewDidScroll:(UIScrollView*)scrollView {
+  device::call(self, _cmd, scrollView);
+}
 
-- (UILabel *)titleLabel { return device::call(self, _cmd); }
-- (void)setTitleLabel:(UILabel *)label { device::call(self, _cmd, label); }
-- (UIImageView *)iconView { return device::call(self, _cmd); }
-- (void)setIconView:(UIImageView *)view { device::call(self, _cmd, view); }
-- (UISwitch *)enableSwitch { return device::call(self, _cmd); }
-- (void)setEnableSwitch:(UISwitch *)control { device::call(self, _cmd, control); }
+- (UILabel*)titleLabel {
+  return device::call(self, _cmd);
+}
+- (void)setTitleLabel:(UILabel*)label {
+  device::call(self, _cmd, label);
+}
+- (UIImageView*)iconView {
+  return device::call(self, _cmd);
+}
+- (void)setIconView:(UIImageView*)view {
+  device::call(self, _cmd, view);
+}
+- (UISwitch*)enableSwitch {
+  return device::call(self, _cmd);
+}
+- (void)setEnableSwitch:(UISwitch*)control {
+  device::call(self, _cmd, control);
+}
 
-- (void)mailComposeController:(MFMailComposeViewController *)composer
+- (void)mailComposeController:(MFMailComposeViewController*)composer
           didFinishWithResult:(MFMailComposeResult)result
-                        error:(NSError *)error {
+                        error:(NSError*)error {
   using namespace platform;
-  dynamic_cast<MFMailComposeViewControllerDelegate &>(**_controller)
+  dynamic_cast<MFMailComposeViewControllerDelegate&>(**_controller)
       .didFinishWithResult(device::handle<::platform::MFMailComposeViewController>(composer),
                            ::platform::MFMailComposeResult(result),
                            device::handle<::platform::NSError>(error));

@@ -16,7 +16,8 @@ class UINavigationController : public Object {
   /// `NSInvalidArgumentException` for null.
   void pushViewController(std::shared_ptr<UIViewController> controller, Animated animated);
 
-  /// Shows one of the platform's own screens (an alert, a composer) over all pages.
+  /// Shows one of the platform's own screens (an alert, a composer) over all pages. Nothing happens
+  /// for none.
   void presentViewController(const Object& controller, Animated animated);
 };
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #import <UIKit/UIKit.h>
-
 #include <memory>
 #include <vector>
 
@@ -43,7 +42,8 @@ class ListBridge {
   virtual platform::PSListController& list() = 0;
   virtual void superSpecifiers() = 0;
   virtual platform::UITableView table() = 0;
-  virtual platform::NSArray load(const platform::NSString& name, platform::PSListController& target) = 0;
+  virtual platform::NSArray load(const platform::NSString& name,
+                                 platform::PSListController& target) = 0;
   virtual void setAppearance(const platform::HBAppearanceSettings& settings) = 0;
 };
 

@@ -2,7 +2,6 @@
 
 #import <CepheiPrefs/HBRootListController.h>
 #import <MessageUI/MessageUI.h>
-
 #include <string>
 #include <unordered_map>
 
@@ -12,6 +11,7 @@
 #include "platform/UIKit/UITableViewDataSource.h"
 #include "platform/UIKit/UITableViewDelegate.h"
 #include "tests/device/doubles/Double.h"
+#include "tests/device/doubles/Event.h"
 #include "tests/device/doubles/Messages.h"
 
 namespace doubles {
@@ -24,7 +24,8 @@ namespace {
 template <class Super>
 class ControllerBridge : public Super, public Bridge {
  public:
-  explicit ControllerBridge(UIViewController* controller) : controller_(controller), methods_(methodsOf(controller)) {
+  explicit ControllerBridge(UIViewController* controller)
+      : controller_(controller), methods_(methodsOf(controller)) {
     desktop::stateOf(*this).className = object_getClassName(controller);
   }
 
@@ -32,21 +33,21 @@ class ControllerBridge : public Super, public Bridge {
   UIViewController* behind() const { return controller_; }
 
   bool init() override {
-    @autoreleasepool {
+    return event([&] {
       // `init` takes over one retain, and gives one back unless it refuses.
       UIViewController* made = [[controller_ retain] init];
       [made release];
       return made != nil;
-    }
+    });
   }
   void viewDidLoad() override {
-    @autoreleasepool { [controller_ viewDidLoad]; }
+    event([&] { [controller_ viewDidLoad]; });
   }
   void viewWillAppear(Animated animated) override {
-    @autoreleasepool { [controller_ viewWillAppear:animated == Animated::Yes]; }
+    event([&] { [controller_ viewWillAppear:animated == Animated::Yes]; });
   }
   void viewDidAppear(Animated animated) override {
-    @autoreleasepool { [controller_ viewDidAppear:animated == Animated::Yes]; }
+    event([&] { [controller_ viewDidAppear:animated == Animated::Yes]; });
   }
   std::span<const platform::Method> methods() const override { return methods_; }
 
@@ -77,7 +78,7 @@ class PageBridge final : public ControllerBridge<platform::HBRootListController>
   using ControllerBridge::ControllerBridge;
 
   platform::NSArray specifiers() override {
-    @autoreleasepool {
+    return event([&] {
       // The same list is the same object on the stand-in's side too.
       NSArray* list = [(::PSListController*)behind() specifiers];
       if (list != seen_) {
@@ -86,14 +87,15 @@ class PageBridge final : public ControllerBridge<platform::HBRootListController>
         specifiers_ = handle<platform::NSArray>(list);
       }
       return specifiers_;
-    }
+    });
   }
   ~PageBridge() override { [seen_ release]; }
 
   platform::PSListController& list() override { return *this; }
   void superSpecifiers() override { HBRootListController::specifiers(); }
   platform::UITableView table() override { return HBRootListController::table(); }
-  platform::NSArray load(const platform::NSString& name, platform::PSListController& target) override {
+  platform::NSArray load(const platform::NSString& name,
+                         platform::PSListController& target) override {
     return loadSpecifiersFromPlistName(name, target);
   }
   void setAppearance(const platform::HBAppearanceSettings& settings) override {
@@ -103,12 +105,12 @@ class PageBridge final : public ControllerBridge<platform::HBRootListController>
   void didFinishWithResult(const platform::MFMailComposeViewController& composer,
                            platform::MFMailComposeResult result,
                            const platform::NSError& error) override {
-    @autoreleasepool {
+    event([&] {
       [(id<MFMailComposeViewControllerDelegate>)behind()
           mailComposeController:object(composer)
             didFinishWithResult:MFMailComposeResult(result)
                           error:object(error)];
-    }
+    });
   }
 
  private:
@@ -130,59 +132,66 @@ class TableBridge final : public ControllerBridge<platform::UIViewController>,
   using Style = platform::UITableViewCellEditingStyle;
 
   std::size_t numberOfSectionsInTableView(const Table& table) override {
-    @autoreleasepool { return std::size_t([list() numberOfSectionsInTableView:object(table)]); }
+    return event([&] { return std::size_t([list() numberOfSectionsInTableView:object(table)]); });
   }
   platform::NSString titleForHeaderInSection(const Table& table, std::size_t section) override {
-    @autoreleasepool {
-      return handle<platform::NSString>([list() tableView:object(table) titleForHeaderInSection:NSInteger(section)]);
-    }
+    return event([&] {
+      return handle<platform::NSString>([list() tableView:object(table)
+                                  titleForHeaderInSection:NSInteger(section)]);
+    });
   }
   std::size_t numberOfRowsInSection(const Table& table, std::size_t section) override {
-    @autoreleasepool {
+    return event([&] {
       return std::size_t([list() tableView:object(table) numberOfRowsInSection:NSInteger(section)]);
-    }
+    });
   }
   platform::UITableViewCell cellForRowAtIndexPath(Table table, const Path& path) override {
-    @autoreleasepool {
-      return handle<platform::UITableViewCell>([list() tableView:object(table) cellForRowAtIndexPath:pathTo(path)]);
-    }
+    return event([&] {
+      return handle<platform::UITableViewCell>([list() tableView:object(table)
+                                           cellForRowAtIndexPath:pathTo(path)]);
+    });
   }
   bool canEditRowAtIndexPath(const Table& table, const Path& path) override {
-    @autoreleasepool { return [list() tableView:object(table) canEditRowAtIndexPath:pathTo(path)]; }
+    return event(
+        [&] { return [list() tableView:object(table) canEditRowAtIndexPath:pathTo(path)]; });
   }
   bool canMoveRowAtIndexPath(const Table& table, const Path& path) override {
-    @autoreleasepool { return [list() tableView:object(table) canMoveRowAtIndexPath:pathTo(path)]; }
+    return event(
+        [&] { return [list() tableView:object(table) canMoveRowAtIndexPath:pathTo(path)]; });
   }
   void commitEditingStyle(const Table& table, Style style, const Path& path) override {
-    @autoreleasepool {
+    event([&] {
       [list() tableView:object(table)
           commitEditingStyle:UITableViewCellEditingStyle(style)
            forRowAtIndexPath:pathTo(path)];
-    }
+    });
   }
-  void moveRowAtIndexPath(const Table& table, const Path& source, const Path& destination) override {
-    @autoreleasepool {
-      [list() tableView:object(table) moveRowAtIndexPath:pathTo(source) toIndexPath:pathTo(destination)];
-    }
+  void moveRowAtIndexPath(const Table& table, const Path& source,
+                          const Path& destination) override {
+    event([&] {
+      [list() tableView:object(table)
+          moveRowAtIndexPath:pathTo(source)
+                 toIndexPath:pathTo(destination)];
+    });
   }
   Style editingStyleForRowAtIndexPath(const Table& table, const Path& path) override {
-    @autoreleasepool {
+    return event([&] {
       return Style([list() tableView:object(table) editingStyleForRowAtIndexPath:pathTo(path)]);
-    }
+    });
   }
   bool shouldIndentWhileEditingRowAtIndexPath(const Table& table, const Path& path) override {
-    @autoreleasepool {
+    return event([&] {
       return [list() tableView:object(table) shouldIndentWhileEditingRowAtIndexPath:pathTo(path)];
-    }
+    });
   }
   Path targetIndexPathForMoveFromRowAtIndexPath(const Table& table, const Path& source,
                                                 const Path& proposed) override {
-    @autoreleasepool {
+    return event([&]() -> Path {
       ::NSIndexPath* target = [list() tableView:object(table)
           targetIndexPathForMoveFromRowAtIndexPath:pathTo(source)
                                toProposedIndexPath:pathTo(proposed)];
       return {std::size_t(target.section), std::size_t(target.row)};
-    }
+    });
   }
 
  private:
@@ -228,9 +237,7 @@ ListBridge& listBridgeOf(UIViewController* controller) {
   return dynamic_cast<ListBridge&>(bridgeOf(controller));
 }
 
-void forgetBridge(UIViewController* controller) {
-  const auto gone = bridges.extract(controller);
-}
+void forgetBridge(UIViewController* controller) { const auto gone = bridges.extract(controller); }
 
 UIViewController* behind(const platform::UIViewController& controller) {
   if (const auto* page = dynamic_cast<const PageBridge*>(&controller)) return page->behind();

@@ -32,14 +32,26 @@ using platform::Animated;
   [super dealloc];
 }
 
-- (UIView *)view { return object(bridgeOf(self).view()); }
-- (UINavigationItem *)navigationItem { return object(bridgeOf(self).navigationItem()); }
-- (UINavigationController *)navigationController { return object(bridgeOf(self).navigationController()); }
-- (void)viewDidLoad { bridgeOf(self).superViewDidLoad(); }
-- (void)viewWillAppear:(BOOL)animated { bridgeOf(self).superViewWillAppear(Animated(bool(animated))); }
-- (void)viewDidAppear:(BOOL)animated { bridgeOf(self).superViewDidAppear(Animated(bool(animated))); }
+- (UIView*)view {
+  return object(bridgeOf(self).view());
+}
+- (UINavigationItem*)navigationItem {
+  return object(bridgeOf(self).navigationItem());
+}
+- (UINavigationController*)navigationController {
+  return object(bridgeOf(self).navigationController());
+}
+- (void)viewDidLoad {
+  bridgeOf(self).superViewDidLoad();
+}
+- (void)viewWillAppear:(BOOL)animated {
+  bridgeOf(self).superViewWillAppear(Animated(bool(animated)));
+}
+- (void)viewDidAppear:(BOOL)animated {
+  bridgeOf(self).superViewDidAppear(Animated(bool(animated)));
+}
 
-- (void)presentViewController:(UIViewController *)controller
+- (void)presentViewController:(UIViewController*)controller
                      animated:(BOOL)animated
                    completion:(void (^)(void))completion {
   NSAssert(!completion, @"the stand-in says nothing when a screen is there");
@@ -55,16 +67,18 @@ using platform::Animated;
 
 @implementation UINavigationController
 
-- (void)pushViewController:(UIViewController *)controller animated:(BOOL)animated {
+- (void)pushViewController:(UIViewController*)controller animated:(BOOL)animated {
   auto pushed = controller ? doubles::shared(controller) : nullptr;
-  handle<platform::UINavigationController>(self).pushViewController(std::move(pushed), Animated(bool(animated)));
+  handle<platform::UINavigationController>(self).pushViewController(std::move(pushed),
+                                                                    Animated(bool(animated)));
 }
 
-- (void)presentViewController:(UIViewController *)controller
+- (void)presentViewController:(UIViewController*)controller
                      animated:(BOOL)animated
                    completion:(void (^)(void))completion {
   NSAssert(!completion, @"the stand-in says nothing when a screen is there");
-  handle<platform::UINavigationController>(self).presentViewController(handle(controller), Animated(bool(animated)));
+  handle<platform::UINavigationController>(self).presentViewController(handle(controller),
+                                                                       Animated(bool(animated)));
 }
 
 @end
@@ -76,15 +90,23 @@ using platform::Animated;
   [super dealloc];
 }
 
-static platform::UINavigationItem own(UINavigationItem *self) {
+static platform::UINavigationItem own(UINavigationItem* self) {
   return handle<platform::UINavigationItem>(self);
 }
 
-- (NSString *)title { return object(own(self).title()); }
-- (void)setTitle:(NSString *)title { own(self).setTitle(handle<platform::NSString>(title)); }
-- (UIView *)titleView { return object(own(self).titleView()); }
-- (void)setTitleView:(UIView *)view { own(self).setTitleView(handle<platform::UIView>(view)); }
-- (void)setRightBarButtonItem:(UIBarButtonItem *)item {
+- (NSString*)title {
+  return object(own(self).title());
+}
+- (void)setTitle:(NSString*)title {
+  own(self).setTitle(handle<platform::NSString>(title));
+}
+- (UIView*)titleView {
+  return object(own(self).titleView());
+}
+- (void)setTitleView:(UIView*)view {
+  own(self).setTitleView(handle<platform::UIView>(view));
+}
+- (void)setRightBarButtonItem:(UIBarButtonItem*)item {
   own(self).setRightBarButtonItem(handle<platform::UIBarButtonItem>(item));
 }
 
@@ -95,19 +117,25 @@ static platform::UINavigationItem own(UINavigationItem *self) {
 
 @implementation PSListController
 
-- (UITableView *)table { return object(listBridgeOf(self).table()); }
-- (void)setTable:(UITableView *)table { [self doesNotRecognizeSelector:_cmd]; (void)table; }
+- (UITableView*)table {
+  return object(listBridgeOf(self).table());
+}
+- (void)setTable:(UITableView*)table {
+  [self doesNotRecognizeSelector:_cmd];
+  (void)table;
+}
 
-- (NSMutableArray *)specifiers {
+- (NSMutableArray*)specifiers {
   listBridgeOf(self).superSpecifiers();
   return _specifiers;
 }
 
-- (NSMutableArray *)loadSpecifiersFromPlistName:(NSString *)name target:(PSListController *)target {
-  return object(listBridgeOf(self).load(handle<platform::NSString>(name), listBridgeOf(target).list()));
+- (NSMutableArray*)loadSpecifiersFromPlistName:(NSString*)name target:(PSListController*)target {
+  return object(
+      listBridgeOf(self).load(handle<platform::NSString>(name), listBridgeOf(target).list()));
 }
 
-- (void)hb_setAppearanceSettings:(HBAppearanceSettings *)settings {
+- (void)hb_setAppearanceSettings:(HBAppearanceSettings*)settings {
   listBridgeOf(self).setAppearance(handle<platform::HBAppearanceSettings>(settings));
 }
 

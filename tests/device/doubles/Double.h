@@ -1,7 +1,6 @@
 #pragma once
 
 #import <Foundation/Foundation.h>
-
 #include <memory>
 
 #include "platform/Object.h"

@@ -24,7 +24,10 @@ Class doubleOf(const std::string& className) {
 id make(const platform::Object& handle) {
   const std::string className(desktop::bodyOf(handle)->className());
   Class known = doubleOf(className);
-  if (!known) [NSException raise:NSInternalInconsistencyException format:@"There is no double of %s", className.c_str()];
+  if (!known) {
+    [NSException raise:NSInternalInconsistencyException
+                format:@"There is no double of %s", className.c_str()];
+  }
   id object = [NSAllocateObject(known, 0, NSDefaultMallocZone()) autorelease];
   bind(object, handle);
   return object;
@@ -33,15 +36,17 @@ id make(const platform::Object& handle) {
 }  // namespace
 
 void bind(id object, const platform::Object& handle) {
-  handles[object] = handle;
-  objects[desktop::bodyOf(handle)] = object;
+  if (!handles.emplace(object, handle).second ||
+      !objects.emplace(desktop::bodyOf(handle), object).second) {
+    [NSException raise:NSInternalInconsistencyException
+                format:@"%s stands for something already", object_getClassName(object)];
+  }
 }
 
 void forget(id object) {
-  const auto found = handles.find(object);
-  if (found == handles.end()) return;
-  objects.erase(desktop::bodyOf(found->second));
-  handles.erase(found);
+  // Taken out before it is let go of, which may make others go.
+  const auto gone = handles.extract(object);
+  if (gone) objects.erase(desktop::bodyOf(gone.mapped()));
 }
 
 platform::Object handle(id object) {

@@ -1,12 +1,13 @@
 #import <QuartzCore/QuartzCore.h>
 #import <UIKit/UIKit.h>
 
+#include "desktop/Message.h"
+#include "platform/QuartzCore/CALayer.h"
 #include "platform/UIKit/NSLayoutConstraint.h"
 #include "platform/UIKit/UIColor.h"
 #include "platform/UIKit/UIFont.h"
 #include "platform/UIKit/UIGraphics.h"
 #include "platform/UIKit/UIImage.h"
-#include "platform/QuartzCore/CALayer.h"
 #include "tests/device/doubles/Double.h"
 #include "tests/device/doubles/Geometry.h"
 
@@ -38,12 +39,18 @@ using doubles::rect;
   doubles::forget(self);
   [super dealloc];
 }
-+ (UIColor *)colorWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha {
++ (UIColor*)colorWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha {
   return object(platform::UIColor::colorWithRed(red, green, blue, alpha));
 }
-+ (UIColor *)whiteColor { return object(platform::UIColor::whiteColor()); }
-+ (UIColor *)clearColor { return object(platform::UIColor::clearColor()); }
-- (CGColorRef)CGColor { return (CGColorRef)object(handle<platform::UIColor>(self).CGColor()); }
++ (UIColor*)whiteColor {
+  return object(platform::UIColor::whiteColor());
+}
++ (UIColor*)clearColor {
+  return object(platform::UIColor::clearColor());
+}
+- (CGColorRef)CGColor {
+  return (CGColorRef)object(handle<platform::UIColor>(self).CGColor());
+}
 
 @end
 
@@ -52,7 +59,9 @@ using doubles::rect;
   doubles::forget(self);
   [super dealloc];
 }
-+ (UIFont *)boldSystemFontOfSize:(CGFloat)size { return object(platform::UIFont::boldSystemFontOfSize(size)); }
++ (UIFont*)boldSystemFontOfSize:(CGFloat)size {
+  return object(platform::UIFont::boldSystemFontOfSize(size));
+}
 @end
 
 @implementation UIImage
@@ -61,13 +70,16 @@ using doubles::rect;
   doubles::forget(self);
   [super dealloc];
 }
-+ (UIImage *)imageWithContentsOfFile:(NSString *)path {
++ (UIImage*)imageWithContentsOfFile:(NSString*)path {
   return object(platform::UIImage::imageWithContentsOfFile(handle<platform::NSString>(path)));
 }
-- (UIImage *)imageWithRenderingMode:(UIImageRenderingMode)mode {
-  return object(handle<platform::UIImage>(self).imageWithRenderingMode(platform::UIImageRenderingMode(mode)));
+- (UIImage*)imageWithRenderingMode:(UIImageRenderingMode)mode {
+  return object(
+      handle<platform::UIImage>(self).imageWithRenderingMode(platform::UIImageRenderingMode(mode)));
 }
-- (void)drawInRect:(CGRect)area { handle<platform::UIImage>(self).drawInRect(rect(area)); }
+- (void)drawInRect:(CGRect)area {
+  handle<platform::UIImage>(self).drawInRect(rect(area));
+}
 
 @end
 
@@ -78,20 +90,31 @@ using doubles::rect;
   [super dealloc];
 }
 
-static platform::CALayer own(CALayer *self) { return handle<platform::CALayer>(self); }
+static platform::CALayer own(CALayer* self) { return handle<platform::CALayer>(self); }
 
-- (void)setBorderWidth:(CGFloat)width { own(self).setBorderWidth(width); }
-- (void)setBorderColor:(CGColorRef)color { own(self).setBorderColor(handle<platform::CGColor>((id)color)); }
-- (void)setCornerRadius:(CGFloat)radius { own(self).setCornerRadius(radius); }
-- (void)renderInContext:(CGContextRef)context { own(self).renderInContext(handle<platform::CGContext>((id)context)); }
+- (void)setBorderWidth:(CGFloat)width {
+  own(self).setBorderWidth(width);
+}
+- (void)setBorderColor:(CGColorRef)color {
+  own(self).setBorderColor(handle<platform::CGColor>((id)color));
+}
+- (void)setCornerRadius:(CGFloat)radius {
+  own(self).setCornerRadius(radius);
+}
+- (void)renderInContext:(CGContextRef)context {
+  own(self).renderInContext(handle<platform::CGContext>((id)context));
+}
 
 @end
 
 void UIGraphicsBeginImageContextWithOptions(CGSize size, BOOL opaque, CGFloat scale) {
-  platform::UIGraphicsBeginImageContextWithOptions({size.width, size.height}, platform::Opaque(bool(opaque)), scale);
+  platform::UIGraphicsBeginImageContextWithOptions({size.width, size.height},
+                                                   platform::Opaque(bool(opaque)), scale);
 }
-CGContextRef UIGraphicsGetCurrentContext() { return (CGContextRef)object(platform::UIGraphicsGetCurrentContext()); }
-UIImage *UIGraphicsGetImageFromCurrentImageContext() {
+CGContextRef UIGraphicsGetCurrentContext() {
+  return (CGContextRef)object(platform::UIGraphicsGetCurrentContext());
+}
+UIImage* UIGraphicsGetImageFromCurrentImageContext() {
   return object(platform::UIGraphicsGetImageFromCurrentImageContext());
 }
 void UIGraphicsEndImageContext() { platform::UIGraphicsEndImageContext(); }
@@ -102,8 +125,9 @@ void UIGraphicsEndImageContext() { platform::UIGraphicsEndImageContext(); }
   doubles::forget(self);
   [super dealloc];
 }
-- (NSLayoutConstraint *)constraintEqualToAnchor:(NSLayoutAnchor *)anchor {
-  return object(handle<platform::NSLayoutAnchor>(self).constraintEqualToAnchor(handle<platform::NSLayoutAnchor>(anchor)));
+- (NSLayoutConstraint*)constraintEqualToAnchor:(NSLayoutAnchor*)anchor {
+  return object(handle<platform::NSLayoutAnchor>(self).constraintEqualToAnchor(
+      handle<platform::NSLayoutAnchor>(anchor)));
 }
 
 @end
@@ -114,14 +138,12 @@ void UIGraphicsEndImageContext() { platform::UIGraphicsEndImageContext(); }
   doubles::forget(self);
   [super dealloc];
 }
-+ (void)activateConstraints:(NSArray *)constraints {
-  // A written list has a length that is known: the four edges of two views.
-  NSAssert([constraints count] == 8, @"the bundle activates eight constraints at once");
-  const auto constraint = [&](NSUInteger index) {
-    return handle<platform::NSLayoutConstraint>([constraints objectAtIndex:index]);
-  };
-  platform::NSLayoutConstraint::activateConstraints({constraint(0), constraint(1), constraint(2), constraint(3),
-                                                     constraint(4), constraint(5), constraint(6), constraint(7)});
++ (void)activateConstraints:(NSArray*)constraints {
+  std::string list;
+  for (NSLayoutConstraint* each in constraints) {
+    list += (list.empty() ? "" : ", ") + desktop::description(handle(each));
+  }
+  desktop::sendClass("NSLayoutConstraint", "activateConstraints:", {std::string_view(list)}, [] {});
 }
 
 @end

@@ -1,7 +1,6 @@
 #include "tests/device/doubles/Foundation.h"
 
 #import <objc/message.h>
-
 #include <string_view>
 
 #include "desktop/Foundation/DictionaryBody.h"
@@ -19,8 +18,13 @@ platform::Object argument(id object) { return handle(object); }
 double argument(NSUInteger number) { return double(number); }
 
 std::string_view nameOf(id receiver) {
-  if (object_getClass(receiver) && class_isMetaClass(object_getClass(receiver))) return class_getName((Class)receiver);
-  for (Class known : {[NSMutableArray class], [NSArray class], [NSMutableDictionary class], [NSDictionary class], [NSString class]}) {
+  if (object_getClass(receiver) && class_isMetaClass(object_getClass(receiver)))
+    return class_getName((Class)receiver);
+  for (Class known : {[NSMutableArray class],
+                      [NSArray class],
+                      [NSMutableDictionary class],
+                      [NSDictionary class],
+                      [NSString class]}) {
     if ([receiver isKindOfClass:known]) return class_getName(known);
   }
   return object_getClassName(receiver);
@@ -29,16 +33,29 @@ std::string_view nameOf(id receiver) {
 /// Notes a message and passes it on.
 template <class Result, class... Arguments>
 Result note(id self, SEL selector, Arguments... arguments) {
-  desktop::Phone::current().journal.record(nameOf(self), sel_getName(selector), {argument(arguments)...});
+  desktop::Phone::current().journal.record(nameOf(self), sel_getName(selector),
+                                           {argument(arguments)...});
   const auto method = (Result(*)(id, SEL, Arguments...))objc_msg_lookup(self, selector);
   return method(self, selector, arguments...);
+}
+
+/// GNUstep looks through the whole list for each of the objects; long lists take minutes.
+void removeAll(NSMutableArray* self, SEL selector, NSArray* removed) {
+  desktop::Phone::current().journal.record(nameOf(self), sel_getName(selector), {handle(removed)});
+  NSSet* sought = [NSSet setWithArray:removed];
+  NSMutableArray* left = [NSMutableArray array];
+  for (id each in self) {
+    if (![sought containsObject:each]) [left addObject:each];
+  }
+  [self setArray:left];
 }
 
 /// Only the kinds that the bundle's pages tell apart are noted.
 BOOL noteKind(id self, SEL selector, Class kind) {
   if (kind == [NSString class] || kind == [NSArray class]) {
     const platform::Object receiver = handle(self);
-    desktop::Phone::current().journal.record(desktop::bodyOf(receiver)->className(), sel_getName(selector), {class_getName(kind)});
+    desktop::Phone::current().journal.record(desktop::bodyOf(receiver)->className(),
+                                             sel_getName(selector), {class_getName(kind)});
   }
   return [self isKindOfClass:kind];
 }
@@ -46,12 +63,14 @@ BOOL noteKind(id self, SEL selector, Class kind) {
 /// @name Property-list files are the stand-in's
 /// @{
 id readFile(id, SEL, NSString* path) {
-  return object(platform::NSDictionary::dictionaryWithContentsOfFile(handle<platform::NSString>(path)));
+  return object(
+      platform::NSDictionary::dictionaryWithContentsOfFile(handle<platform::NSString>(path)));
 }
 
 id initWithFile(id self, SEL, NSString* path) {
   [[self init] release];  // GNUstep frees only what was initialised.
-  return [object(platform::NSMutableDictionary::initWithContentsOfFile(handle<platform::NSString>(path))) retain];
+  return [object(platform::NSMutableDictionary::initWithContentsOfFile(
+      handle<platform::NSString>(path))) retain];
 }
 
 /// The form that a file has, and keeps.
@@ -64,8 +83,10 @@ BOOL writeFile(NSDictionary* self, SEL, NSString* path, BOOL atomically) {
   using desktop::DictionaryBody;
   const platform::Object contents = handle(self);
   const auto written = desktop::make<platform::NSMutableDictionary, DictionaryBody>(
-      desktop::bodyAs<DictionaryBody>(contents)->dictionary, DictionaryBody::Mutable::Yes, formOf([path UTF8String]));
-  return written.writeToFile(handle<platform::NSString>(path), platform::Atomically(bool(atomically)));
+      desktop::bodyAs<DictionaryBody>(contents)->dictionary, DictionaryBody::Mutable::Yes,
+      formOf([path UTF8String]));
+  return written.writeToFile(handle<platform::NSString>(path),
+                             platform::Atomically(bool(atomically)));
 }
 /// @}
 
@@ -87,7 +108,7 @@ const Message messages[] = {
     {"NSMutableArray", "insertObject:atIndex:", IMP(&note<void, id, NSUInteger>)},
     {"NSMutableArray", "replaceObjectAtIndex:withObject:", IMP(&note<void, NSUInteger, id>)},
     {"NSMutableArray", "removeObject:", IMP(&note<void, id>)},
-    {"NSMutableArray", "removeObjectsInArray:", IMP(&note<void, id>)},
+    {"NSMutableArray", "removeObjectsInArray:", IMP(&removeAll)},
     {"NSMutableArray", "copy", IMP(&note<id>)},
     {"NSDictionary", "dictionaryWithContentsOfFile:", IMP(&readFile)},
     {"NSDictionary", "objectForKey:", IMP(&note<id, id>)},
@@ -107,7 +128,8 @@ IMP recorded(id receiver, SEL selector) {
   const std::string_view name = sel_getName(selector);
   for (const Message& message : messages) {
     Class known = objc_lookUpClass(message.className);
-    if (name == message.selector && (receiver == (id)known || [receiver isKindOfClass:known])) return message.method;
+    if (name == message.selector && (receiver == (id)known || [receiver isKindOfClass:known]))
+      return message.method;
   }
   return nullptr;
 }

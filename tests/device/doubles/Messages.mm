@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "tests/device/doubles/Double.h"
+#include "tests/device/doubles/Event.h"
 
 namespace doubles {
 
@@ -20,7 +21,7 @@ constexpr std::size_t mostSelectors = 256;
 std::vector<SEL> selectors;
 
 Object send(UIViewController* target, SEL selector, const Object& first, const Object& second) {
-  @autoreleasepool {
+  return event([&]() -> Object {
     NSMethodSignature* signature = [target methodSignatureForSelector:selector];
     NSInvocation* message = [NSInvocation invocationWithMethodSignature:signature];
     [message setSelector:selector];
@@ -33,7 +34,7 @@ Object send(UIViewController* target, SEL selector, const Object& first, const O
     id answer = nil;
     [message getReturnValue:&answer];
     return handle(answer);
-  }
+  });
 }
 
 template <std::size_t Index>
@@ -75,7 +76,8 @@ std::vector<platform::Method> methodsOf(UIViewController* controller) {
   Method* own = class_copyMethodList(object_getClass(controller), &count);
   for (unsigned index = 0; index < count; ++index) {
     SEL selector = method_getName(own[index]);
-    if (takesObjects(controller, selector)) methods.push_back({sel_getName(selector), invokeOf(selector)});
+    if (takesObjects(controller, selector))
+      methods.push_back({sel_getName(selector), invokeOf(selector)});
   }
   free(own);
   return methods;

@@ -16,19 +16,25 @@ using doubles::object;
 
 @implementation DoubleNSFileManager
 
-static platform::NSFileManager own(DoubleNSFileManager *self) { return handle<platform::NSFileManager>(self); }
+static platform::NSFileManager own(DoubleNSFileManager* self) {
+  return handle<platform::NSFileManager>(self);
+}
 
 - (void)dealloc {
   doubles::forget(self);
   [super dealloc];
 }
-+ (instancetype)defaultManager { return object(platform::NSFileManager::defaultManager()); }
-- (NSArray *)contentsOfDirectoryAtPath:(NSString *)path error:(NSError **)error {
++ (instancetype)defaultManager {
+  return object(platform::NSFileManager::defaultManager());
+}
+- (NSArray*)contentsOfDirectoryAtPath:(NSString*)path error:(NSError**)error {
   NSAssert(!error, @"the stand-in does not say why");
   return object(own(self).contentsOfDirectoryAtPath(handle<platform::NSString>(path)));
 }
-- (BOOL)fileExistsAtPath:(NSString *)path { return own(self).fileExistsAtPath(handle<platform::NSString>(path)); }
-- (BOOL)removeItemAtPath:(NSString *)path error:(NSError **)error {
+- (BOOL)fileExistsAtPath:(NSString*)path {
+  return own(self).fileExistsAtPath(handle<platform::NSString>(path));
+}
+- (BOOL)removeItemAtPath:(NSString*)path error:(NSError**)error {
   NSAssert(!error, @"the stand-in does not say why");
   return own(self).removeItemAtPath(handle<platform::NSString>(path));
 }
@@ -44,12 +50,24 @@ static platform::NSFileManager own(DoubleNSFileManager *self) { return handle<pl
   doubles::forget(self);
   [super dealloc];
 }
-+ (instancetype)processInfo { return object(platform::NSProcessInfo::processInfo()); }
++ (instancetype)processInfo {
+  return object(platform::NSProcessInfo::processInfo());
+}
 - (BOOL)isOperatingSystemAtLeastVersion:(NSOperatingSystemVersion)version {
   return handle<platform::NSProcessInfo>(self).isOperatingSystemAtLeastVersion(
       {version.majorVersion, version.minorVersion, version.patchVersion});
 }
 
+@end
+
+@interface DoubleNSError : NSObject
+@end
+
+@implementation DoubleNSError
+- (void)dealloc {
+  doubles::forget(self);
+  [super dealloc];
+}
 @end
 
 @interface DoubleNSFileHandle : NSObject
@@ -61,7 +79,9 @@ static platform::NSFileManager own(DoubleNSFileManager *self) { return handle<pl
   doubles::forget(self);
   [super dealloc];
 }
-- (NSData *)readDataToEndOfFile { return object(handle<platform::NSFileHandle>(self).readDataToEndOfFile()); }
+- (NSData*)readDataToEndOfFile {
+  return object(handle<platform::NSFileHandle>(self).readDataToEndOfFile());
+}
 
 @end
 
@@ -74,8 +94,12 @@ static platform::NSFileManager own(DoubleNSFileManager *self) { return handle<pl
   doubles::forget(self);
   [super dealloc];
 }
-+ (instancetype)pipe { return object(platform::NSPipe::pipe()); }
-- (DoubleNSFileHandle *)fileHandleForReading { return object(handle<platform::NSPipe>(self).fileHandleForReading()); }
++ (instancetype)pipe {
+  return object(platform::NSPipe::pipe());
+}
+- (DoubleNSFileHandle*)fileHandleForReading {
+  return object(handle<platform::NSPipe>(self).fileHandleForReading());
+}
 
 @end
 
@@ -84,17 +108,29 @@ static platform::NSFileManager own(DoubleNSFileManager *self) { return handle<pl
 
 @implementation DoubleNSTask
 
-static platform::NSTask own(DoubleNSTask *self) { return handle<platform::NSTask>(self); }
+static platform::NSTask own(DoubleNSTask* self) { return handle<platform::NSTask>(self); }
 
 - (void)dealloc {
   doubles::forget(self);
   [super dealloc];
 }
-- (instancetype)init { return initialised(self, platform::NSTask::init()); }
-- (void)setLaunchPath:(NSString *)path { own(self).setLaunchPath(handle<platform::NSString>(path)); }
-- (void)setArguments:(NSArray *)arguments { own(self).setArguments(handle<platform::NSArray>(arguments)); }
-- (id)standardOutput { return object(own(self).standardOutput()); }
-- (void)setStandardOutput:(id)output { own(self).setStandardOutput(handle<platform::NSPipe>(output)); }
-- (void)launch { own(self).launch(); }
+- (instancetype)init {
+  return initialised(self, platform::NSTask::init());
+}
+- (void)setLaunchPath:(NSString*)path {
+  own(self).setLaunchPath(handle<platform::NSString>(path));
+}
+- (void)setArguments:(NSArray*)arguments {
+  own(self).setArguments(handle<platform::NSArray>(arguments));
+}
+- (id)standardOutput {
+  return object(own(self).standardOutput());
+}
+- (void)setStandardOutput:(id)output {
+  own(self).setStandardOutput(handle<platform::NSPipe>(output));
+}
+- (void)launch {
+  own(self).launch();
+}
 
 @end

@@ -6,6 +6,7 @@
 #import <Preferences/PSListController.h>
 #import <Preferences/PSSpecifier.h>
 #include <dispatch/dispatch.h>
+#include <unordered_map>
 
 #include "platform/Cephei/HBAppearanceSettings.h"
 #include "platform/Cephei/HBPreferences.h"
@@ -17,57 +18,97 @@
 #include "platform/dlfcn/dlopen.h"
 #include "tests/device/doubles/Bridge.h"
 #include "tests/device/doubles/Double.h"
+#include "tests/device/doubles/Service.h"
 
 using doubles::handle;
 using doubles::initialised;
 using doubles::object;
 
+/// The stand-in's object keeps its domain to itself.
+static std::unordered_map<id, NSString*>& identifiers() {
+  static std::unordered_map<id, NSString*> known;
+  return known;
+}
+
 @implementation HBPreferences
 
-static platform::HBPreferences own(HBPreferences *self) { return handle<platform::HBPreferences>(self); }
+static platform::HBPreferences own(HBPreferences* self) {
+  return handle<platform::HBPreferences>(self);
+}
 
-- (instancetype)initWithIdentifier:(NSString *)identifier {
-  return initialised(self, platform::HBPreferences::initWithIdentifier(handle<platform::NSString>(identifier)));
+- (instancetype)initWithIdentifier:(NSString*)identifier {
+  identifiers()[self] = [identifier retain];
+  return initialised(
+      self, platform::HBPreferences::initWithIdentifier(handle<platform::NSString>(identifier)));
 }
 - (void)dealloc {
+  [identifiers().extract(self).mapped() release];
   doubles::forget(self);
   [super dealloc];
 }
-/// Only what keeps the service and its files in agreement asks, which they always are here.
-- (NSString *)identifier { return nil; }
-- (id)objectForKey:(NSString *)key { return object(own(self).objectForKey(handle<platform::NSString>(key))); }
-- (void)setObject:(id)value forKey:(NSString *)key {
+- (NSString*)identifier {
+  return identifiers().at(self);
+}
+- (id)objectForKey:(NSString*)key {
+  return object(own(self).objectForKey(handle<platform::NSString>(key)));
+}
+- (void)setObject:(id)value forKey:(NSString*)key {
   own(self).setObject(handle(value), handle<platform::NSString>(key));
 }
-- (void)removeAllObjects { own(self).removeAllObjects(); }
+- (void)removeAllObjects {
+  own(self).removeAllObjects();
+}
 
 @end
 
 @implementation HBRespringController
-+ (void)respringAndReturnTo:(NSURL *)url {
++ (void)respringAndReturnTo:(NSURL*)url {
   platform::HBRespringController::respringAndReturnTo(handle<platform::NSURL>(url));
 }
 @end
 
+bool doubles::cepheiHasTranslucentBars = true;
+
 @implementation HBAppearanceSettings
 
-static platform::HBAppearanceSettings own(HBAppearanceSettings *self) {
+static platform::HBAppearanceSettings own(HBAppearanceSettings* self) {
   return handle<platform::HBAppearanceSettings>(self);
 }
-static platform::UIColor color(UIColor *self) { return handle<platform::UIColor>(self); }
+static platform::UIColor color(UIColor* self) { return handle<platform::UIColor>(self); }
 
-- (instancetype)init { return initialised(self, platform::HBAppearanceSettings::init()); }
+- (instancetype)init {
+  return initialised(self, platform::HBAppearanceSettings::init());
+}
 - (void)dealloc {
   doubles::forget(self);
   [super dealloc];
 }
-- (void)setTintColor:(UIColor *)value { own(self).setTintColor(color(value)); }
-- (void)setNavigationBarTitleColor:(UIColor *)value { own(self).setNavigationBarTitleColor(color(value)); }
-- (void)setNavigationBarTintColor:(UIColor *)value { own(self).setNavigationBarTintColor(color(value)); }
-- (void)setTableViewCellSeparatorColor:(UIColor *)value { own(self).setTableViewCellSeparatorColor(color(value)); }
-- (void)setNavigationBarBackgroundColor:(UIColor *)value { own(self).setNavigationBarBackgroundColor(color(value)); }
-- (void)setTableViewCellTextColor:(UIColor *)value { own(self).setTableViewCellTextColor(color(value)); }
-- (void)setTranslucentNavigationBar:(BOOL)translucent { own(self).setTranslucentNavigationBar(translucent); }
+- (void)setTintColor:(UIColor*)value {
+  own(self).setTintColor(color(value));
+}
+- (void)setNavigationBarTitleColor:(UIColor*)value {
+  own(self).setNavigationBarTitleColor(color(value));
+}
+- (void)setNavigationBarTintColor:(UIColor*)value {
+  own(self).setNavigationBarTintColor(color(value));
+}
+- (void)setTableViewCellSeparatorColor:(UIColor*)value {
+  own(self).setTableViewCellSeparatorColor(color(value));
+}
+- (void)setNavigationBarBackgroundColor:(UIColor*)value {
+  own(self).setNavigationBarBackgroundColor(color(value));
+}
+- (void)setTableViewCellTextColor:(UIColor*)value {
+  own(self).setTableViewCellTextColor(color(value));
+}
+- (BOOL)respondsToSelector:(SEL)selector {
+  return (doubles::cepheiHasTranslucentBars || selector != @selector
+                                                   (setTranslucentNavigationBar:)) &&
+         [super respondsToSelector:selector];
+}
+- (void)setTranslucentNavigationBar:(BOOL)translucent {
+  own(self).setTranslucentNavigationBar(translucent);
+}
 - (void)setLargeTitleStyle:(HBAppearanceSettingsLargeTitleStyle)style {
   own(self).setLargeTitleStyle(platform::HBAppearanceSettingsLargeTitleStyle(style));
 }
@@ -80,29 +121,34 @@ static platform::UIColor color(UIColor *self) { return handle<platform::UIColor>
   doubles::forget(self);
   [super dealloc];
 }
-+ (instancetype)preferenceSpecifierNamed:(NSString *)name
++ (instancetype)preferenceSpecifierNamed:(NSString*)name
                                   target:(id)target
                                      set:(SEL)set
                                      get:(SEL)get
                                   detail:(Class)detail
                                     cell:(PSCellType)cell
                                     edit:(Class)edit {
-  const auto selector = [](SEL given) { return given ? platform::SEL(sel_getName(given)) : platform::SEL(); };
+  const auto selector = [](SEL given) {
+    return given ? platform::SEL(sel_getName(given)) : platform::SEL();
+  };
   return object(platform::PSSpecifier::preferenceSpecifierNamed(
-      handle<platform::NSString>(name), doubles::listBridgeOf(target).list(), selector(set), selector(get),
-      handle<platform::Class>(detail), platform::PSCellType(cell), handle<platform::Class>(edit)));
+      handle<platform::NSString>(name), doubles::listBridgeOf(target).list(), selector(set),
+      selector(get), handle<platform::Class>(detail), platform::PSCellType(cell),
+      handle<platform::Class>(edit)));
 }
-+ (instancetype)groupSpecifierWithName:(NSString *)name {
++ (instancetype)groupSpecifierWithName:(NSString*)name {
   return object(platform::PSSpecifier::groupSpecifierWithName(handle<platform::NSString>(name)));
 }
-- (void)setProperty:(id)value forKey:(NSString *)key {
+- (void)setProperty:(id)value forKey:(NSString*)key {
   handle<platform::PSSpecifier>(self).setProperty(handle(value), handle<platform::NSString>(key));
 }
-- (id)propertyForKey:(NSString *)key {
-  return object(handle<platform::PSSpecifier>(self).propertyForKey(handle<platform::NSString>(key)));
+- (id)propertyForKey:(NSString*)key {
+  return object(
+      handle<platform::PSSpecifier>(self).propertyForKey(handle<platform::NSString>(key)));
 }
-- (void)setValues:(NSArray *)values titles:(NSArray *)titles {
-  handle<platform::PSSpecifier>(self).setValues(handle<platform::NSArray>(values), handle<platform::NSArray>(titles));
+- (void)setValues:(NSArray*)values titles:(NSArray*)titles {
+  handle<platform::PSSpecifier>(self).setValues(handle<platform::NSArray>(values),
+                                                handle<platform::NSArray>(titles));
 }
 
 @end
@@ -121,28 +167,34 @@ CFNotificationCenterRef CFNotificationCenterGetDarwinNotifyCenter() {
 }
 
 void CFNotificationCenterPostNotification(CFNotificationCenterRef center, CFNotificationName name,
-                                          const void *sender, CFDictionaryRef userInfo,
+                                          const void* sender, CFDictionaryRef userInfo,
                                           Boolean deliverImmediately) {
-  platform::CFNotificationCenterPostNotification(handle<platform::CFNotificationCenter>((id)center),
-                                                 handle<platform::NSString>((id)name), handle((id)sender),
-                                                 handle((id)userInfo),
-                                                 platform::DeliverImmediately(bool(deliverImmediately)));
+  platform::CFNotificationCenterPostNotification(
+      handle<platform::CFNotificationCenter>((id)center), handle<platform::NSString>((id)name),
+      handle((id)sender), handle((id)userInfo),
+      platform::DeliverImmediately(bool(deliverImmediately)));
 }
 
 // The stand-in's service and its files agree at all times.
-Boolean CFPreferencesSynchronize(CFStringRef, CFStringRef, CFStringRef) { return true; }
-const CFStringRef kCFPreferencesAnyHost = CFStringRef(@"kCFPreferencesAnyHost");
+std::vector<std::string> doubles::synchronized;
+Boolean CFPreferencesSynchronize(CFStringRef domain, CFStringRef, CFStringRef) {
+  doubles::synchronized.push_back([(NSString*)domain UTF8String]);
+  return true;
+}
+extern const CFStringRef kCFPreferencesAnyHost = CFStringRef(@"kCFPreferencesAnyHost");
 
 CFTypeRef MGCopyAnswer(CFStringRef question, CFDictionaryRef) {
-  return (CFTypeRef)[object(platform::MGCopyAnswer(handle<platform::NSString>((id)question))) retain];
+  return (
+      CFTypeRef)[object(platform::MGCopyAnswer(handle<platform::NSString>((id)question))) retain];
 }
 
-dispatch_time_t dispatch_time(dispatch_time_t when, int64_t delta) { return when + dispatch_time_t(delta); }
+dispatch_time_t dispatch_time(dispatch_time_t when, int64_t delta) {
+  return when + dispatch_time_t(delta);
+}
 
 dispatch_queue_t dispatch_get_main_queue() { return nullptr; }
 
 void dispatch_after(dispatch_time_t when, dispatch_queue_t, dispatch_block_t block) {
-  platform::dispatch_after(std::chrono::nanoseconds(when), [kept = doubles::keep(block)] {
-    ((dispatch_block_t)kept.get())();
-  });
+  platform::dispatch_after(std::chrono::nanoseconds(when),
+                           [kept = doubles::keep(block)] { ((dispatch_block_t)kept.get())(); });
 }

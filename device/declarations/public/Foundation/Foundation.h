@@ -34,7 +34,7 @@ typedef struct _NSZone NSZone;
 
 typedef NSString* NSExceptionName;
 __attribute__((__objc_exception__))
-@interface NSException : NSObject <NSCopying>
+@interface NSException : NSObject<NSCopying>
 @property(readonly, copy) NSExceptionName name;
 @property(readonly, copy) NSString* reason;
 @end
@@ -47,6 +47,9 @@ __attribute__((__objc_exception__))
 
 @interface NSURL : NSObject <NSCopying>
 + (instancetype)URLWithString:(NSString*)URLString;
++ (NSURL*)fileURLWithPath:(NSString*)path;
+@property(readonly, copy) NSURL* URLByDeletingPathExtension;
+@property(readonly, copy) NSString* lastPathComponent;
 @end
 
 @interface NSIndexPath : NSObject <NSCopying>

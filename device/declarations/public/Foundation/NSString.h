@@ -13,6 +13,5 @@ enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
 + (instancetype)stringWithFormat:(NSString*)format, ...;
 @property(readonly) const char* UTF8String;
 - (BOOL)isEqualToString:(NSString*)aString;
-@property(readonly, copy) NSString* lastPathComponent;
 @property(readonly, copy) NSString* stringByDeletingPathExtension;
 @end

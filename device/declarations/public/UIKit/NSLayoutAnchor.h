@@ -5,14 +5,14 @@
 @class NSLayoutConstraint;
 
 @interface NSLayoutAnchor<AnchorType> : NSObject
-- (NSLayoutConstraint *)constraintEqualToAnchor:(NSLayoutAnchor<AnchorType> *)anchor
+- (NSLayoutConstraint*)constraintEqualToAnchor:(NSLayoutAnchor<AnchorType>*)anchor
     __attribute__((warn_unused_result));
 @end
 
 @class NSLayoutXAxisAnchor, NSLayoutYAxisAnchor;
 
-@interface NSLayoutXAxisAnchor : NSLayoutAnchor<NSLayoutXAxisAnchor *>
+@interface NSLayoutXAxisAnchor : NSLayoutAnchor <NSLayoutXAxisAnchor*>
 @end
 
-@interface NSLayoutYAxisAnchor : NSLayoutAnchor<NSLayoutYAxisAnchor *>
+@interface NSLayoutYAxisAnchor : NSLayoutAnchor <NSLayoutYAxisAnchor*>
 @end

@@ -3,5 +3,5 @@
 #import <Foundation/Foundation.h>
 
 @interface NSLayoutConstraint : NSObject
-+ (void)activateConstraints:(NSArray<NSLayoutConstraint *> *)constraints;
++ (void)activateConstraints:(NSArray<NSLayoutConstraint*>*)constraints;
 @end

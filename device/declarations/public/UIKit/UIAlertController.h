@@ -14,14 +14,14 @@ typedef NS_ENUM(NSInteger, UIAlertControllerStyle) {
 };
 
 @interface UIAlertAction : NSObject
-+ (instancetype)actionWithTitle:(NSString *)title
++ (instancetype)actionWithTitle:(NSString*)title
                           style:(UIAlertActionStyle)style
-                        handler:(void (^)(UIAlertAction *action))handler;
+                        handler:(void (^)(UIAlertAction* action))handler;
 @end
 
 @interface UIAlertController : UIViewController
-+ (instancetype)alertControllerWithTitle:(NSString *)title
-                                 message:(NSString *)message
++ (instancetype)alertControllerWithTitle:(NSString*)title
+                                 message:(NSString*)message
                           preferredStyle:(UIAlertControllerStyle)preferredStyle;
-- (void)addAction:(UIAlertAction *)action;
+- (void)addAction:(UIAlertAction*)action;
 @end

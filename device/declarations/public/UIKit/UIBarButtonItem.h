@@ -5,9 +5,9 @@
 @class UIView;
 
 @interface UIBarItem : NSObject
-@property(nonatomic, copy) NSString *title;
+@property(nonatomic, copy) NSString* title;
 @end
 
 @interface UIBarButtonItem : UIBarItem
-- (instancetype)initWithCustomView:(UIView *)customView;
+- (instancetype)initWithCustomView:(UIView*)customView;
 @end

@@ -4,11 +4,8 @@
 #import <Foundation/Foundation.h>
 
 @interface UIColor : NSObject
-+ (UIColor *)colorWithRed:(CGFloat)red
-                    green:(CGFloat)green
-                     blue:(CGFloat)blue
-                    alpha:(CGFloat)alpha;
-@property(class, nonatomic, readonly) UIColor *whiteColor;
-@property(class, nonatomic, readonly) UIColor *clearColor;
++ (UIColor*)colorWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha;
+@property(class, nonatomic, readonly) UIColor* whiteColor;
+@property(class, nonatomic, readonly) UIColor* clearColor;
 @property(nonatomic, readonly) CGColorRef CGColor;
 @end

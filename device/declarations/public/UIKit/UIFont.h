@@ -4,5 +4,5 @@
 #import <Foundation/Foundation.h>
 
 @interface UIFont : NSObject
-+ (UIFont *)boldSystemFontOfSize:(CGFloat)fontSize;
++ (UIFont*)boldSystemFontOfSize:(CGFloat)fontSize;
 @end

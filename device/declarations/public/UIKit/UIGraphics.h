@@ -7,6 +7,6 @@
 extern "C" {
 CGContextRef UIGraphicsGetCurrentContext(void);
 void UIGraphicsBeginImageContextWithOptions(CGSize size, BOOL opaque, CGFloat scale);
-UIImage *UIGraphicsGetImageFromCurrentImageContext(void);
+UIImage* UIGraphicsGetImageFromCurrentImageContext(void);
 void UIGraphicsEndImageContext(void);
 }

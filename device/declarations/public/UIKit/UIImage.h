@@ -10,7 +10,7 @@ typedef NS_ENUM(NSInteger, UIImageRenderingMode) {
 };
 
 @interface UIImage : NSObject
-+ (UIImage *)imageWithContentsOfFile:(NSString *)path;
++ (UIImage*)imageWithContentsOfFile:(NSString*)path;
 - (void)drawInRect:(CGRect)rect;
-- (UIImage *)imageWithRenderingMode:(UIImageRenderingMode)renderingMode;
+- (UIImage*)imageWithRenderingMode:(UIImageRenderingMode)renderingMode;
 @end

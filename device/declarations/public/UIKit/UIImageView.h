@@ -5,6 +5,6 @@
 @class UIImage;
 
 @interface UIImageView : UIView
-- (instancetype)initWithImage:(UIImage *)image;
-@property(nonatomic, strong) UIImage *image;
+- (instancetype)initWithImage:(UIImage*)image;
+@property(nonatomic, strong) UIImage* image;
 @end

@@ -5,10 +5,10 @@
 @class UINavigationItem;
 
 @interface UINavigationController : UIViewController
-- (void)pushViewController:(UIViewController *)viewController animated:(BOOL)animated;
+- (void)pushViewController:(UIViewController*)viewController animated:(BOOL)animated;
 @end
 
 @interface UIViewController (UINavigationControllerItem)
-@property(nonatomic, readonly, strong) UINavigationItem *navigationItem;
-@property(nonatomic, readonly, strong) UINavigationController *navigationController;
+@property(nonatomic, readonly, strong) UINavigationItem* navigationItem;
+@property(nonatomic, readonly, strong) UINavigationController* navigationController;
 @end

@@ -5,7 +5,7 @@
 @class UIBarButtonItem, UIView;
 
 @interface UINavigationItem : NSObject
-@property(nonatomic, copy) NSString *title;
-@property(nonatomic, strong) UIView *titleView;
-@property(nonatomic, strong) UIBarButtonItem *rightBarButtonItem;
+@property(nonatomic, copy) NSString* title;
+@property(nonatomic, strong) UIView* titleView;
+@property(nonatomic, strong) UIBarButtonItem* rightBarButtonItem;
 @end

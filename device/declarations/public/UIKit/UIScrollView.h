@@ -6,7 +6,7 @@
 
 @protocol UIScrollViewDelegate <NSObject>
 @optional
-- (void)scrollViewDidScroll:(UIScrollView *)scrollView;
+- (void)scrollViewDidScroll:(UIScrollView*)scrollView;
 @end
 
 @interface UIScrollView : UIView

@@ -3,7 +3,7 @@
 #import <UIKit/UIControl.h>
 
 @interface UISwitch : UIControl
-@property(nonatomic, strong) UIColor *onTintColor;
+@property(nonatomic, strong) UIColor* onTintColor;
 @property(nonatomic, getter=isOn) BOOL on;
 - (void)setOn:(BOOL)on animated:(BOOL)animated;
 @end

@@ -12,7 +12,7 @@ typedef NS_ENUM(NSInteger, UITableViewStyle) { UITableViewStyleGrouped = 1 };
 @property(nonatomic, getter=isEditing) BOOL editing;
 - (void)setEditing:(BOOL)editing animated:(BOOL)animated;
 @property(nonatomic) BOOL allowsSelection;
-@property(nonatomic, strong) UIColor *separatorColor;
-@property(nonatomic, strong) UIView *tableHeaderView;
-- (__kindof UITableViewCell *)dequeueReusableCellWithIdentifier:(NSString *)identifier;
+@property(nonatomic, strong) UIColor* separatorColor;
+@property(nonatomic, strong) UIView* tableHeaderView;
+- (__kindof UITableViewCell*)dequeueReusableCellWithIdentifier:(NSString*)identifier;
 @end

@@ -14,6 +14,6 @@ typedef NS_ENUM(NSInteger, UITableViewCellEditingStyle) {
 
 @interface UITableViewCell : UIView
 - (instancetype)initWithStyle:(UITableViewCellStyle)style
-              reuseIdentifier:(NSString *)reuseIdentifier;
-@property(nonatomic, readonly, strong) UILabel *textLabel;
+              reuseIdentifier:(NSString*)reuseIdentifier;
+@property(nonatomic, readonly, strong) UILabel* textLabel;
 @end

@@ -24,7 +24,7 @@ typedef NS_OPTIONS(NSUInteger, UIViewAnimationOptions) {
 
 @interface UIView : UIResponder
 - (instancetype)initWithFrame:(CGRect)frame;
-@property(nonatomic, readonly, strong) CALayer *layer;
+@property(nonatomic, readonly, strong) CALayer* layer;
 @end
 
 @interface UIView (UIViewGeometry)
@@ -34,15 +34,15 @@ typedef NS_OPTIONS(NSUInteger, UIViewAnimationOptions) {
 @end
 
 @interface UIView (UIViewHierarchy)
-- (void)addSubview:(UIView *)view;
+- (void)addSubview:(UIView*)view;
 @end
 
 @interface UIView (UIViewRendering)
 @property(nonatomic) BOOL clipsToBounds;
-@property(nonatomic, copy) UIColor *backgroundColor;
+@property(nonatomic, copy) UIColor* backgroundColor;
 @property(nonatomic) CGFloat alpha;
 @property(nonatomic) UIViewContentMode contentMode;
-@property(nonatomic, strong) UIColor *tintColor;
+@property(nonatomic, strong) UIColor* tintColor;
 @end
 
 @interface UIView (UIViewAnimationWithBlocks)
@@ -59,8 +59,8 @@ typedef NS_OPTIONS(NSUInteger, UIViewAnimationOptions) {
 @end
 
 @interface UIView (UIViewLayoutConstraintCreation)
-@property(nonatomic, readonly, strong) NSLayoutXAxisAnchor *leadingAnchor;
-@property(nonatomic, readonly, strong) NSLayoutXAxisAnchor *trailingAnchor;
-@property(nonatomic, readonly, strong) NSLayoutYAxisAnchor *topAnchor;
-@property(nonatomic, readonly, strong) NSLayoutYAxisAnchor *bottomAnchor;
+@property(nonatomic, readonly, strong) NSLayoutXAxisAnchor* leadingAnchor;
+@property(nonatomic, readonly, strong) NSLayoutXAxisAnchor* trailingAnchor;
+@property(nonatomic, readonly, strong) NSLayoutYAxisAnchor* topAnchor;
+@property(nonatomic, readonly, strong) NSLayoutYAxisAnchor* bottomAnchor;
 @end

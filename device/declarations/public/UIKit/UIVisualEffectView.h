@@ -8,9 +8,9 @@ typedef NS_ENUM(NSInteger, UIBlurEffectStyle) { UIBlurEffectStyleRegular = 4 };
 @end
 
 @interface UIBlurEffect : UIVisualEffect
-+ (UIBlurEffect *)effectWithStyle:(UIBlurEffectStyle)style;
++ (UIBlurEffect*)effectWithStyle:(UIBlurEffectStyle)style;
 @end
 
 @interface UIVisualEffectView : UIView
-- (instancetype)initWithEffect:(UIVisualEffect *)effect;
+- (instancetype)initWithEffect:(UIVisualEffect*)effect;
 @end
