@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <regex>
+#include <stdexcept>
 
 #include "tests/device/macho/Command.h"
 
@@ -65,7 +66,9 @@ class ClassReader {
 }  // namespace
 
 std::set<std::string> headerOf(const Path& file) {
-  const std::vector<std::string> words = wordsOf(ask(file, "--private-header").back());
+  const std::vector<std::string> lines = ask(file, "--private-header");
+  if (lines.empty()) throw std::runtime_error(file.string() + " has no Mach header");
+  const std::vector<std::string> words = wordsOf(lines.back());
   return {words.begin(), words.end()};
 }
 
