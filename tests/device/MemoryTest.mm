@@ -6,17 +6,12 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "desktop/Phone.h"
 #include "tests/device/Owner.h"
 #include "tests/device/doubles/Double.h"
 #include "tests/device/doubles/Messages.h"
 #include "tests/support/Driver.h"
 
 namespace {
-
-UIViewController* topController() {
-  return doubles::behind(*desktop::Phone::current().springBoard.navigation()->top().controller);
-}
 
 /// The controllers of that class that live.
 int living(const char* className) { return GSDebugAllocationCount(objc_lookUpClass(className)); }
@@ -52,7 +47,7 @@ TEST_P(Memory, ControllerLeftByTheUserIsFreedWithAllItOwns) {
 
   event([&] { phone.tap(row); });
   std::function<bool()> lives;
-  event([&] { lives = owner::watch(topController()); });
+  event([&] { lives = owner::watch(doubles::controllerOnTop()); });
   ASSERT_EQ(living(className), 1);
   ASSERT_TRUE(lives());
   EXPECT_GT(doubles::count(), before);
@@ -72,7 +67,7 @@ INSTANTIATE_TEST_SUITE_P(Pages, Memory,
 TEST_F(Memory, RootPageIsFreedWithAllItOwnsWhenTheBundleIsOpenedAnew) {
   support::Driver phone;
   std::function<bool()> lives;
-  event([&] { lives = owner::watch(topController()); });
+  event([&] { lives = owner::watch(doubles::controllerOnTop()); });
   event([&] { phone.reopen(); });
   EXPECT_FALSE(lives());
   EXPECT_EQ(living("QMRoot"), 1);

@@ -14,4 +14,7 @@ std::vector<platform::Method> methodsOf(UIViewController* controller);
 /// The controller to which a stand-in's controller passes what it is sent.
 UIViewController* behind(const platform::UIViewController& controller);
 
+/// That of the page on top.
+UIViewController* controllerOnTop();
+
 }  // namespace doubles

@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "desktop/Phone.h"
 #include "tests/device/doubles/Double.h"
 #include "tests/device/doubles/Event.h"
 
@@ -81,6 +82,10 @@ std::vector<platform::Method> methodsOf(UIViewController* controller) {
   }
   free(own);
   return methods;
+}
+
+UIViewController* controllerOnTop() {
+  return behind(*desktop::Phone::current().springBoard.navigation()->top().controller);
 }
 
 }  // namespace doubles

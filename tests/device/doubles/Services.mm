@@ -102,8 +102,8 @@ static platform::UIColor color(UIColor* self) { return handle<platform::UIColor>
   own(self).setTableViewCellTextColor(color(value));
 }
 - (BOOL)respondsToSelector:(SEL)selector {
-  return (doubles::cepheiHasTranslucentBars || selector != @selector
-                                                   (setTranslucentNavigationBar:)) &&
+  const BOOL isOfTheOlder = sel_isEqual(selector, @selector(setTranslucentNavigationBar:));
+  return (doubles::cepheiHasTranslucentBars || !isOfTheOlder) &&
          [super respondsToSelector:selector];
 }
 - (void)setTranslucentNavigationBar:(BOOL)translucent {
