@@ -21,6 +21,7 @@ for (const [name, [open, message]] of Object.entries(prompts)) {
     await open(screen);
     assert.equal(await prompt(screen).getByRole('heading').innerText(), 'Quillmere');
     assert.equal(await prompt(screen).getByRole('paragraph').innerText(), message);
+    await screen.still();
     const [left, right] = [await button(screen, 'Cancel').boundingBox(),
                            await button(screen, 'Confirm').boundingBox()];
     assert.ok(left.x + left.width <= right.x && left.y === right.y, 'side by side');
