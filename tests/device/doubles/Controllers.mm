@@ -13,10 +13,7 @@ using doubles::object;
 using platform::Animated;
 
 @implementation UIResponder
-- (void)dealloc {
-  doubles::forget(self);
-  [super dealloc];
-}
+#include "tests/device/doubles/Dealloc.inc"
 @end
 
 @implementation UIViewController
@@ -85,10 +82,7 @@ using platform::Animated;
 
 @implementation UINavigationItem
 
-- (void)dealloc {
-  doubles::forget(self);
-  [super dealloc];
-}
+#include "tests/device/doubles/Dealloc.inc"
 
 static platform::UINavigationItem own(UINavigationItem* self) {
   return handle<platform::UINavigationItem>(self);

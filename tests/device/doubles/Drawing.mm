@@ -19,26 +19,17 @@ using doubles::rect;
 @interface DoubleCGColor : NSObject
 @end
 @implementation DoubleCGColor
-- (void)dealloc {
-  doubles::forget(self);
-  [super dealloc];
-}
+#include "tests/device/doubles/Dealloc.inc"
 @end
 @interface DoubleCGContext : NSObject
 @end
 @implementation DoubleCGContext
-- (void)dealloc {
-  doubles::forget(self);
-  [super dealloc];
-}
+#include "tests/device/doubles/Dealloc.inc"
 @end
 
 @implementation UIColor
 
-- (void)dealloc {
-  doubles::forget(self);
-  [super dealloc];
-}
+#include "tests/device/doubles/Dealloc.inc"
 + (UIColor*)colorWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha {
   return object(platform::UIColor::colorWithRed(red, green, blue, alpha));
 }
@@ -55,10 +46,7 @@ using doubles::rect;
 @end
 
 @implementation UIFont
-- (void)dealloc {
-  doubles::forget(self);
-  [super dealloc];
-}
+#include "tests/device/doubles/Dealloc.inc"
 + (UIFont*)boldSystemFontOfSize:(CGFloat)size {
   return object(platform::UIFont::boldSystemFontOfSize(size));
 }
@@ -66,10 +54,7 @@ using doubles::rect;
 
 @implementation UIImage
 
-- (void)dealloc {
-  doubles::forget(self);
-  [super dealloc];
-}
+#include "tests/device/doubles/Dealloc.inc"
 + (UIImage*)imageWithContentsOfFile:(NSString*)path {
   return object(platform::UIImage::imageWithContentsOfFile(handle<platform::NSString>(path)));
 }
@@ -85,10 +70,7 @@ using doubles::rect;
 
 @implementation CALayer
 
-- (void)dealloc {
-  doubles::forget(self);
-  [super dealloc];
-}
+#include "tests/device/doubles/Dealloc.inc"
 
 static platform::CALayer own(CALayer* self) { return handle<platform::CALayer>(self); }
 
@@ -121,10 +103,7 @@ void UIGraphicsEndImageContext() { platform::UIGraphicsEndImageContext(); }
 
 @implementation NSLayoutAnchor
 
-- (void)dealloc {
-  doubles::forget(self);
-  [super dealloc];
-}
+#include "tests/device/doubles/Dealloc.inc"
 - (NSLayoutConstraint*)constraintEqualToAnchor:(NSLayoutAnchor*)anchor {
   return object(handle<platform::NSLayoutAnchor>(self).constraintEqualToAnchor(
       handle<platform::NSLayoutAnchor>(anchor)));
@@ -134,10 +113,7 @@ void UIGraphicsEndImageContext() { platform::UIGraphicsEndImageContext(); }
 
 @implementation NSLayoutConstraint
 
-- (void)dealloc {
-  doubles::forget(self);
-  [super dealloc];
-}
+#include "tests/device/doubles/Dealloc.inc"
 + (void)activateConstraints:(NSArray*)constraints {
   std::string list;
   for (NSLayoutConstraint* each in constraints) {

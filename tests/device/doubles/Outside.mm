@@ -20,10 +20,7 @@ static platform::NSFileManager own(DoubleNSFileManager* self) {
   return handle<platform::NSFileManager>(self);
 }
 
-- (void)dealloc {
-  doubles::forget(self);
-  [super dealloc];
-}
+#include "tests/device/doubles/Dealloc.inc"
 + (instancetype)defaultManager {
   return object(platform::NSFileManager::defaultManager());
 }
@@ -46,10 +43,7 @@ static platform::NSFileManager own(DoubleNSFileManager* self) {
 
 @implementation DoubleNSProcessInfo
 
-- (void)dealloc {
-  doubles::forget(self);
-  [super dealloc];
-}
+#include "tests/device/doubles/Dealloc.inc"
 + (instancetype)processInfo {
   return object(platform::NSProcessInfo::processInfo());
 }
@@ -64,10 +58,7 @@ static platform::NSFileManager own(DoubleNSFileManager* self) {
 @end
 
 @implementation DoubleNSError
-- (void)dealloc {
-  doubles::forget(self);
-  [super dealloc];
-}
+#include "tests/device/doubles/Dealloc.inc"
 @end
 
 @interface DoubleNSFileHandle : NSObject
@@ -75,10 +66,7 @@ static platform::NSFileManager own(DoubleNSFileManager* self) {
 
 @implementation DoubleNSFileHandle
 
-- (void)dealloc {
-  doubles::forget(self);
-  [super dealloc];
-}
+#include "tests/device/doubles/Dealloc.inc"
 - (NSData*)readDataToEndOfFile {
   return object(handle<platform::NSFileHandle>(self).readDataToEndOfFile());
 }
@@ -90,10 +78,7 @@ static platform::NSFileManager own(DoubleNSFileManager* self) {
 
 @implementation DoubleNSPipe
 
-- (void)dealloc {
-  doubles::forget(self);
-  [super dealloc];
-}
+#include "tests/device/doubles/Dealloc.inc"
 + (instancetype)pipe {
   return object(platform::NSPipe::pipe());
 }
@@ -110,10 +95,7 @@ static platform::NSFileManager own(DoubleNSFileManager* self) {
 
 static platform::NSTask own(DoubleNSTask* self) { return handle<platform::NSTask>(self); }
 
-- (void)dealloc {
-  doubles::forget(self);
-  [super dealloc];
-}
+#include "tests/device/doubles/Dealloc.inc"
 - (instancetype)init {
   return initialised(self, platform::NSTask::init());
 }

@@ -15,10 +15,7 @@ using doubles::object;
 
 @implementation UIAlertAction
 
-- (void)dealloc {
-  doubles::forget(self);
-  [super dealloc];
-}
+#include "tests/device/doubles/Dealloc.inc"
 + (instancetype)actionWithTitle:(NSString*)title
                           style:(UIAlertActionStyle)style
                         handler:(void (^)(UIAlertAction*))handler {
@@ -48,10 +45,7 @@ using doubles::object;
 @end
 
 @implementation UIBarItem
-- (void)dealloc {
-  doubles::forget(self);
-  [super dealloc];
-}
+#include "tests/device/doubles/Dealloc.inc"
 - (void)setTitle:(NSString*)title {
   handle<platform::UIBarButtonItem>(self).setTitle(handle<platform::NSString>(title));
 }

@@ -79,10 +79,7 @@ static platform::UIColor color(UIColor* self) { return handle<platform::UIColor>
 - (instancetype)init {
   return initialised(self, platform::HBAppearanceSettings::init());
 }
-- (void)dealloc {
-  doubles::forget(self);
-  [super dealloc];
-}
+#include "tests/device/doubles/Dealloc.inc"
 - (void)setTintColor:(UIColor*)value {
   own(self).setTintColor(color(value));
 }
@@ -117,10 +114,7 @@ static platform::UIColor color(UIColor* self) { return handle<platform::UIColor>
 
 @implementation PSSpecifier
 
-- (void)dealloc {
-  doubles::forget(self);
-  [super dealloc];
-}
+#include "tests/device/doubles/Dealloc.inc"
 + (instancetype)preferenceSpecifierNamed:(NSString*)name
                                   target:(id)target
                                      set:(SEL)set
@@ -156,10 +150,7 @@ static platform::UIColor color(UIColor* self) { return handle<platform::UIColor>
 @interface DoubleCFNotificationCenter : NSObject
 @end
 @implementation DoubleCFNotificationCenter
-- (void)dealloc {
-  doubles::forget(self);
-  [super dealloc];
-}
+#include "tests/device/doubles/Dealloc.inc"
 @end
 
 CFNotificationCenterRef CFNotificationCenterGetDarwinNotifyCenter() {

@@ -160,10 +160,7 @@ static platform::UISwitch own(UISwitch* self) { return handle<platform::UISwitch
 @end
 
 @implementation UIVisualEffect
-- (void)dealloc {
-  doubles::forget(self);
-  [super dealloc];
-}
+#include "tests/device/doubles/Dealloc.inc"
 @end
 
 @implementation UIBlurEffect
