@@ -9,7 +9,8 @@
 #include "platform/UIKit/UIViewController.h"
 
 /// What each of the bundle's controllers answers besides its messages: the C++ controller that it
-/// owns, and what its superclass does, which only its own methods can ask for.
+/// owns (which goes after its superclasses have, since these may send messages while they go), and
+/// what its superclass does, which only its own methods can ask for.
 @protocol QMController <NSObject>
 - (const std::shared_ptr<platform::UIViewController>&)ownedController;
 - (instancetype)initAsSuperclass;

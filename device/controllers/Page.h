@@ -10,6 +10,6 @@
 /// bundle, and in it the list resources, by them.
 #define QUILLMERE_PAGE(Name)                                  \
   @interface Name : HBRootListController <QMListController> { \
-    std::shared_ptr<platform::UIViewController>* _controller; \
+    std::shared_ptr<platform::UIViewController> _controller;  \
   }                                                           \
   @end

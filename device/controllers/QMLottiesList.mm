@@ -6,7 +6,7 @@
 
 @interface QMLottiesList
     : UIViewController <QMController, UITableViewDataSource, UITableViewDelegate> {
-  std::shared_ptr<platform::UIViewController>* _controller;
+  std::shared_ptr<platform::UIViewController> _controller;
 }
 @property(nonatomic, retain) NSMutableArray* allViews;
 @property(nonatomic, retain) NSMutableArray* defaultViews;

@@ -63,7 +63,7 @@ QUILLMERE_PAGE(QMRoot)
           didFinishWithResult:(MFMailComposeResult)result
                         error:(NSError*)error {
   using namespace platform;
-  dynamic_cast<MFMailComposeViewControllerDelegate&>(**_controller)
+  dynamic_cast<MFMailComposeViewControllerDelegate&>(*_controller)
       .didFinishWithResult(device::handle<::platform::MFMailComposeViewController>(composer),
                            ::platform::MFMailComposeResult(result),
                            device::handle<::platform::NSError>(error));
