@@ -26,6 +26,15 @@
 @property(nonatomic, retain) NSArray* ownSpecifiers;
 @end
 
+/// A property's two methods, which its controller's table of methods has.
+#define QUILLMERE_PROPERTY(Type, getter, setter) \
+  -(Type*)getter {                               \
+    return device::call(self, _cmd);             \
+  }                                              \
+  -(void)setter : (Type*)value {                 \
+    device::call(self, _cmd, value);             \
+  }
+
 /// A controller of the bundle, as the platform knows it: it owns a C++ controller.
 typedef UIViewController<QMController>* QMOwner;
 

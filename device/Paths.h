@@ -11,4 +11,7 @@ namespace device {
 /// stays where it is. Nil for none.
 ::NSString* resolved(const platform::NSString& path);
 
+/// The environment in which other programs find each other; nil where that is this program's own.
+::NSDictionary* environment();
+
 }  // namespace device

@@ -50,4 +50,13 @@ std::string moved(const std::string& path) {
   return path ? autoreleased(platform::NSString(std::string_view(moved(path.UTF8String())))) : nil;
 }
 
+::NSDictionary* environment() {
+  if (std::string_view(QUILLMERE_PREFIX).empty()) return nil;
+  ::NSDictionary* own = [[::NSProcessInfo processInfo] environment];
+  ::NSMutableDictionary* extended = [::NSMutableDictionary dictionaryWithDictionary:own];
+  [extended setObject:@QUILLMERE_PREFIX "/usr/bin:" QUILLMERE_PREFIX "/bin:/usr/bin:/bin"
+               forKey:@"PATH"];
+  return extended;
+}
+
 }  // namespace device

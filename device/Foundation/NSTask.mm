@@ -19,7 +19,13 @@ namespace {
 
 }  // namespace
 
-NSTask NSTask::init() { return device::adopt<NSTask>([[::NSTask alloc] init]); }
+NSTask NSTask::init() {
+  const NSTask task = device::adopt<NSTask>([[::NSTask alloc] init]);
+  if (::NSDictionary* environment = device::environment()) {
+    [native(task) setEnvironment:environment];
+  }
+  return task;
+}
 
 void NSTask::setLaunchPath(const NSString& path) {
   [native(*this) setLaunchPath:device::resolved(path)];

@@ -39,7 +39,6 @@ void MFMailComposeViewController::addAttachmentData(const NSData& data, const NS
 
 void MFMailComposeViewController::setMailComposeDelegate(
     MFMailComposeViewControllerDelegate& delegate) {
-  // The controllers' mail callback is made from their table of methods, which no protocol shows.
   [native(*this)
       setMailComposeDelegate:(id<MFMailComposeViewControllerDelegate>)device::controllerBehind(
                                  delegate)];

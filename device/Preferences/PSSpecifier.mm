@@ -1,9 +1,13 @@
 #include "platform/Preferences/PSSpecifier.h"
 
 #import <Preferences/PSSpecifier+Values.h>
+#include <algorithm>
+#include <iterator>
+#include <string_view>
 
 #include "device/Controller.h"
 #include "device/Native.h"
+#include "device/Paths.h"
 #include "platform/Preferences/PSListController.h"
 
 namespace platform {
@@ -28,6 +32,13 @@ static_assert(long(PSCellType::PSSecureEditTextCell) == ::PSSecureEditTextCell);
 static_assert(long(PSCellType::PSButtonCell) == ::PSButtonCell);
 static_assert(long(PSCellType::PSEditTextViewCell) == ::PSEditTextViewCell);
 
+namespace {
+
+/// The properties that tell a third party's cell where files of the bundle lie.
+constexpr std::string_view paths[] = {"bundlePath", "defaultsPath"};
+
+}  // namespace
+
 PSSpecifier PSSpecifier::preferenceSpecifierNamed(const NSString& name, PSListController& target,
                                                   SEL set, SEL get, const Class& detail,
                                                   PSCellType cell, const Class& edit) {
@@ -45,7 +56,10 @@ PSSpecifier PSSpecifier::groupSpecifierWithName(const NSString& name) {
 }
 
 void PSSpecifier::setProperty(const Object& value, const NSString& key) {
-  [native(*this) setProperty:object(value) forKey:native(key)];
+  const bool isPath =
+      std::find(std::begin(paths), std::end(paths), key.UTF8String()) != std::end(paths);
+  [native(*this) setProperty:isPath ? device::resolved(value.as<NSString>()) : object(value)
+                      forKey:native(key)];
 }
 
 Object PSSpecifier::propertyForKey(const NSString& key) const {

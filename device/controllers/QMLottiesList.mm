@@ -39,48 +39,13 @@ platform::UITableView handle(UITableView* table) {
   device::call(self, _cmd);
 }
 
-- (NSMutableArray*)allViews {
-  return device::call(self, _cmd);
-}
-- (void)setAllViews:(NSMutableArray*)names {
-  device::call(self, _cmd, names);
-}
-- (NSMutableArray*)defaultViews {
-  return device::call(self, _cmd);
-}
-- (void)setDefaultViews:(NSMutableArray*)names {
-  device::call(self, _cmd, names);
-}
-- (NSMutableArray*)enabledViews {
-  return device::call(self, _cmd);
-}
-- (void)setEnabledViews:(NSMutableArray*)names {
-  device::call(self, _cmd, names);
-}
-- (NSMutableArray*)disabledViews {
-  return device::call(self, _cmd);
-}
-- (void)setDisabledViews:(NSMutableArray*)names {
-  device::call(self, _cmd, names);
-}
-- (UITableView*)tableView {
-  return device::call(self, _cmd);
-}
-- (void)setTableView:(UITableView*)table {
-  device::call(self, _cmd, table);
-}
-- (UIBarButtonItem*)editButton {
-  return device::call(self, _cmd);
-}
-- (void)setEditButton:(UIBarButtonItem*)button {
-  device::call(self, _cmd, button);
-}
-- (NSString*)appName {
-  return device::call(self, _cmd);
-}
-- (void)setAppName:(NSString*)name {
-  device::call(self, _cmd, name);
-}
+QUILLMERE_PROPERTY(NSMutableArray, allViews, setAllViews)
+QUILLMERE_PROPERTY(NSMutableArray, defaultViews, setDefaultViews)
+QUILLMERE_PROPERTY(NSMutableArray, enabledViews, setEnabledViews)
+QUILLMERE_PROPERTY(NSMutableArray, disabledViews, setDisabledViews)
+QUILLMERE_PROPERTY(UITableView, tableView, setTableView)
+QUILLMERE_PROPERTY(UIBarButtonItem, editButton, setEditButton)
+QUILLMERE_PROPERTY(NSString, appName, setAppName)
 
 - (NSInteger)numberOfSectionsInTableView:(UITableView*)table {
   return NSInteger(list(self).numberOfSectionsInTableView(handle(table)));

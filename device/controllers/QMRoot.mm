@@ -40,33 +40,17 @@ QUILLMERE_PAGE(QMRoot)
   device::call(self, _cmd, scrollView);
 }
 
-- (UILabel*)titleLabel {
-  return device::call(self, _cmd);
-}
-- (void)setTitleLabel:(UILabel*)label {
-  device::call(self, _cmd, label);
-}
-- (UIImageView*)iconView {
-  return device::call(self, _cmd);
-}
-- (void)setIconView:(UIImageView*)view {
-  device::call(self, _cmd, view);
-}
-- (UISwitch*)enableSwitch {
-  return device::call(self, _cmd);
-}
-- (void)setEnableSwitch:(UISwitch*)control {
-  device::call(self, _cmd, control);
-}
+QUILLMERE_PROPERTY(UILabel, titleLabel, setTitleLabel)
+QUILLMERE_PROPERTY(UIImageView, iconView, setIconView)
+QUILLMERE_PROPERTY(UISwitch, enableSwitch, setEnableSwitch)
 
 - (void)mailComposeController:(MFMailComposeViewController*)composer
           didFinishWithResult:(MFMailComposeResult)result
                         error:(NSError*)error {
-  using namespace platform;
-  dynamic_cast<MFMailComposeViewControllerDelegate&>(*_controller)
-      .didFinishWithResult(device::handle<::platform::MFMailComposeViewController>(composer),
-                           ::platform::MFMailComposeResult(result),
-                           device::handle<::platform::NSError>(error));
+  dynamic_cast<platform::MFMailComposeViewControllerDelegate&>(*_controller)
+      .didFinishWithResult(device::handle<platform::MFMailComposeViewController>(composer),
+                           platform::MFMailComposeResult(result),
+                           device::handle<platform::NSError>(error));
 }
 
 @end

@@ -21,16 +21,15 @@ void expectProperties(std::initializer_list<NSString*> names, id other) {
 
 TEST(Properties, OfTheRootPageAreReadAndSet) {
   const support::Driver phone;
-  expectProperties({@"titleLabel", @"iconView", @"enableSwitch"}, nil);
+  expectProperties({@"titleLabel", @"iconView", @"enableSwitch"}, @"another");
 }
 
 TEST(Properties, OfTheAnimationListAreReadAndSet) {
   support::Driver phone;
   phone.tap("Lotties");
-  expectProperties({@"allViews", @"defaultViews", @"enabledViews", @"disabledViews"},
-                   [NSMutableArray array]);
-  expectProperties({@"tableView", @"editButton"}, nil);
-  expectProperties({@"appName"}, @"a name");
+  expectProperties({@"allViews", @"defaultViews", @"enabledViews", @"disabledViews", @"tableView",
+                    @"editButton", @"appName"},
+                   @"another");
 }
 
 }  // namespace

@@ -6,30 +6,43 @@
 
 namespace {
 
-using testing::Each;
+using doubles::Synchronization;
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::Field;
+using testing::StartsWith;
 
-constexpr const char* domain = "com.orvalen.quillmere";
+/// Of the bundle's domain, as the user whose it is, when the journal had come so far.
+auto synchronizedAfter(const std::string& line) {
+  return AllOf(Field(&Synchronization::domain, "com.orvalen.quillmere"),
+               Field(&Synchronization::user, "mobile"), Field(&Synchronization::isOfAnyHost, true),
+               Field(&Synchronization::after, StartsWith(line)));
+}
 
 /// The service answers from memory and writes files when it likes; the pages read and write files.
 class Service : public testing::Test {
  protected:
   support::Driver phone;
-  Service() { doubles::synchronized.clear(); }
 };
 
 TEST_F(Service, IsAskedToAgreeWithTheFileBeforeItIsReadAndAfterItWasWritten) {
   phone.tap("Clock");
-  doubles::synchronized.clear();
   phone.toggle("clockEnabled", false);
-  // Before the file is read, and after the service was told.
-  EXPECT_THAT(doubles::synchronized, testing::ElementsAre(domain, domain));
+  phone.forget();
+  doubles::synchronizations.clear();
+  phone.toggle("clockEnabled", true);
+  EXPECT_THAT(doubles::synchronizations,
+              ElementsAre(synchronizedAfter("PSSpecifier propertyForKey:\"defaults\""),
+                          synchronizedAfter("HBPreferences setObject:")));
+  EXPECT_THAT(phone.journal(), testing::Contains(StartsWith("NSMutableDictionary initWith")));
 }
 
 TEST_F(Service, IsAskedToAgreeAfterItWasCleared) {
   phone.tap("Reset All Settings");
+  doubles::synchronizations.clear();
   phone.answer("Confirm");
-  EXPECT_THAT(doubles::synchronized, testing::Not(testing::IsEmpty()));
-  EXPECT_THAT(doubles::synchronized, Each(domain));
+  EXPECT_THAT(doubles::synchronizations,
+              ElementsAre(synchronizedAfter("HBPreferences removeAllObjects")));
 }
 
 TEST_F(Service, OfTheNewerCepheiIsNotAskedForATranslucentBar) {

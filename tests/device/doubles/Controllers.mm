@@ -134,6 +134,8 @@ static platform::UINavigationItem own(UINavigationItem* self) {
 }
 
 - (void)dealloc {
+  // A superclass may ask the class that derives from it until the very end.
+  if (_specifiers) [self specifiers];
   [_specifiers release];
   [super dealloc];
 }

@@ -6,8 +6,15 @@
 /// What no other backend has, and the stand-in's journal therefore does not note.
 namespace doubles {
 
-/// The domains of which the service was asked to agree with its files, in order.
-extern std::vector<std::string> synchronized;
+/// A request to the service that it and its files agree.
+struct Synchronization {
+  std::string domain;
+  std::string user;
+  bool isOfAnyHost;
+  /// What the journal said last when it came; empty when nothing.
+  std::string after;
+};
+extern std::vector<Synchronization> synchronizations;
 
 /// Whether this Cephei lets the look of a bar be translucent; 2.0 does not.
 extern bool cepheiHasTranslucentBars;

@@ -8,6 +8,7 @@
 #include <dispatch/dispatch.h>
 #include <unordered_map>
 
+#include "desktop/Phone.h"
 #include "platform/Cephei/HBAppearanceSettings.h"
 #include "platform/Cephei/HBPreferences.h"
 #include "platform/Cephei/HBRespringController.h"
@@ -167,12 +168,17 @@ void CFNotificationCenterPostNotification(CFNotificationCenterRef center, CFNoti
 }
 
 // The stand-in's service and its files agree at all times.
-std::vector<std::string> doubles::synchronized;
-Boolean CFPreferencesSynchronize(CFStringRef domain, CFStringRef, CFStringRef) {
-  doubles::synchronized.push_back([(NSString*)domain UTF8String]);
+std::vector<doubles::Synchronization> doubles::synchronizations;
+extern const CFStringRef kCFPreferencesAnyHost = CFStringRef(@"kCFPreferencesAnyHost");
+
+Boolean CFPreferencesSynchronize(CFStringRef domain, CFStringRef user, CFStringRef host) {
+  const auto& journal = desktop::Phone::current().journal.lines();
+  doubles::synchronizations.push_back({[(NSString*)domain UTF8String],
+                                       [(NSString*)user UTF8String],
+                                       host == kCFPreferencesAnyHost,
+                                       journal.empty() ? "" : journal.back()});
   return true;
 }
-extern const CFStringRef kCFPreferencesAnyHost = CFStringRef(@"kCFPreferencesAnyHost");
 
 CFTypeRef MGCopyAnswer(CFStringRef question, CFDictionaryRef) {
   return (

@@ -11,12 +11,13 @@ using platform::NSPipe;
 using platform::NSString;
 using platform::NSTask;
 
-/// What the shell of that name, in this program's layout, writes when it is asked to say "heard".
-std::string heardFrom(const char* shell) {
+/// What that program of the phone writes when it is asked to run a line of a shell's language. The
+/// layout's folder has a link to this computer's shell.
+std::string heardFrom(const char* program, const char* line) {
   @autoreleasepool {
     NSTask task = NSTask::init();
-    task.setLaunchPath(shell);
-    task.setArguments(NSArray::arrayWithObjects({NSString("-c"), NSString("echo heard")}));
+    task.setLaunchPath(program);
+    task.setArguments(NSArray::arrayWithObjects({NSString("-c"), NSString(line)}));
     const NSPipe pipe = NSPipe::pipe();
     task.setStandardOutput(pipe);
     task.launch();
@@ -25,9 +26,17 @@ std::string heardFrom(const char* shell) {
   }
 }
 
-// The layout of this program moves what is not of the system; "/var/jb" need not exist here.
+TEST(Task, GivesWhatTheProgramWrites) {
+  EXPECT_EQ(heardFrom("/bin/sh", "echo heard; echo twice"), "heard\ntwice\n");
+}
+
+TEST(Task, FindsProgramsWhereTheLayoutHasThem) {
+  EXPECT_EQ(heardFrom("/bin/sh", "echo $PATH"),
+            QUILLMERE_PREFIX "/usr/bin:" QUILLMERE_PREFIX "/bin:/usr/bin:/bin\n");
+}
+
 TEST(Task, ThatCannotBeStartedGivesNothingAndKeepsNobodyWaiting) {
-  EXPECT_EQ(heardFrom("/no/such/shell"), "");
+  EXPECT_EQ(heardFrom("/no/such/shell", "echo heard"), "");
 }
 
 TEST(Task, OutputIsNoneUntilItIsSet) {

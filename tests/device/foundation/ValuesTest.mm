@@ -2,8 +2,9 @@
 
 #include "device/Native.h"
 #include "platform/Foundation/NSArray.h"
+#include "platform/Foundation/NSDictionary.h"
 #include "platform/Foundation/NSNumber.h"
-#include "platform/Foundation/NSProcessInfo.h"
+#include "platform/Foundation/NSTask.h"
 #include "platform/Foundation/NSURL.h"
 
 /// What no page does, and the projection promises all the same; over Foundation itself.
@@ -56,6 +57,19 @@ TEST_F(Values, CopiesShareTheObjectAndLetGoOfIt) {
     text = moved;
   }
   EXPECT_EQ([device::native(text) retainCount], before);
+}
+
+/// How often an object is retained by others than the handle.
+NSUInteger retains(const Object& object) { return [device::object(object) retainCount] - 1; }
+
+TEST_F(Values, MadeForTheCallerAreTheCallersAlone) {
+  const auto array = NSArray::arrayWithObjects({NSString("a"), NSString("b")});
+  EXPECT_EQ(retains(platform::NSMutableArray::initWithArray(array)), 0u);
+  EXPECT_EQ(retains(array.mutableCopy()), 0u);
+  EXPECT_EQ(retains(array.mutableCopy().copy()), 0u);
+  EXPECT_EQ(retains(platform::NSMutableDictionary::init()), 0u);
+  EXPECT_EQ(retains(platform::NSTask::init()), 0u);
+  EXPECT_EQ(retains(NSString("a text that is made anew")), 0u);
 }
 
 TEST_F(Values, RaisesPastTheEnd) {

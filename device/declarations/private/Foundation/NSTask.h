@@ -7,6 +7,7 @@
 @interface NSTask : NSObject
 @property(copy) NSString* launchPath;
 @property(copy) NSArray<NSString*>* arguments;
+@property(copy) NSDictionary<NSString*, NSString*>* environment;
 /// An NSPipe or an NSFileHandle.
 @property(retain) id standardOutput;
 /// Raises NSInvalidArgumentException when the program cannot be started.

@@ -63,6 +63,7 @@ typedef struct {
 
 @interface NSProcessInfo : NSObject
 @property(class, readonly, strong) NSProcessInfo* processInfo;
+@property(readonly, copy) NSDictionary<NSString*, NSString*>* environment;
 - (BOOL)isOperatingSystemAtLeastVersion:(NSOperatingSystemVersion)version;
 @end
 

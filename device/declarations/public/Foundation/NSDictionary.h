@@ -8,6 +8,7 @@
     : NSObject <NSCopying, NSMutableCopying>
 - (ObjectType)objectForKey:(KeyType)aKey;
 - (BOOL)writeToFile:(NSString*)path atomically:(BOOL)useAuxiliaryFile;
++ (instancetype)dictionaryWithDictionary:(NSDictionary<KeyType, ObjectType>*)dict;
 + (NSDictionary<KeyType, ObjectType>*)dictionaryWithContentsOfFile:(NSString*)path;
 @end
 
