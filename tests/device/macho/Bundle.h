@@ -13,7 +13,7 @@ namespace phone_tests {
 struct Layout {
   std::string name;
   std::string cephei;  ///< Where the install names of Cephei's libraries begin.
-  bool isBelowVarJb;
+  std::string prefix;  ///< Of the paths of whatever else the jailbreak adds: "" or "/var/jb".
 };
 inline std::ostream& operator<<(std::ostream& out, const Layout& layout) {
   return out << layout.name;
