@@ -23,8 +23,8 @@ const std::map<std::string, std::string> superclasses = {
 };
 
 /// What the system calls by names of its own, besides the product's tables.
-const Names ofAnyController = {"init", "viewDidLoad"};
-const Names ofAnyPage = {"specifiers"};
+const Names ofAnyController = {"init", "viewDidLoad", "viewWillAppear:", "viewDidAppear:"};
+const Names ofAnyPage = {"specifiers", "readPreferenceValue:", "setPreferenceValue:specifier:"};
 const std::map<std::string, Names> callbacks = {
     {"QMRoot", {"mailComposeController:didFinishWithResult:error:", "scrollViewDidScroll:"}},
     {"QMLottiesList",

@@ -16,8 +16,7 @@ struct Packaging {
   std::string layout;
   std::string prefix;  ///< Of the paths in the package.
   std::string architecture;
-  std::string firmware;  ///< The oldest system that it depends on.
-  std::string cephei;
+  std::string depends;  ///< What it needs, as dpkg reads it.
 };
 inline std::ostream& operator<<(std::ostream& out, const Packaging& packaging) {
   return out << packaging.layout;
