@@ -78,11 +78,16 @@ INSTANTIATE_TEST_SUITE_P(Pages, Memory,
 
 TEST_F(Memory, RootPageIsFreedWithAllItOwnsWhenTheBundleIsOpenedAnew) {
   support::Driver phone;
+  event([&] { phone.reopen(); });
   std::function<bool()> lives;
   event([&] { lives = owner::watch(doubles::controllerOnTop()); });
+  const std::size_t before = doubles::count();
+  const int livingBefore = livingInAll();
   event([&] { phone.reopen(); });
   EXPECT_FALSE(lives());
   EXPECT_EQ(living("QMRoot"), 1);
+  EXPECT_EQ(doubles::count(), before);
+  EXPECT_EQ(livingInAll(), livingBefore);
 }
 
 TEST_F(Memory, RefusedControllerIsFreed) {
