@@ -20,6 +20,13 @@ using platform::Animated;
 
 namespace {
 
+/// As Settings does it.
+id initialised(UIViewController* controller) {
+  return [controller respondsToSelector:@selector(initForContentSize:)]
+             ? [(::PSViewController*)controller initForContentSize:CGSize()]
+             : [controller init];
+}
+
 /// What the two kinds of controllers have in common.
 template <class Super>
 class ControllerBridge : public Super, public Bridge {
@@ -34,8 +41,8 @@ class ControllerBridge : public Super, public Bridge {
 
   bool init() override {
     return event([&] {
-      // `init` takes over one retain, and gives one back unless it refuses.
-      UIViewController* made = [[controller_ retain] init];
+      // It takes over one retain, and gives one back unless it refuses.
+      UIViewController* made = initialised([controller_ retain]);
       [made release];
       return made != nil;
     });
