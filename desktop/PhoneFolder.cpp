@@ -13,6 +13,7 @@
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <system_error>
+#include <thread>
 
 namespace desktop {
 
@@ -242,6 +243,19 @@ void PhoneFolder::makeLink(std::string_view path, const std::string& target) con
   if (symlinkat(target.c_str(), folder.number(), nameIn(path).c_str()) < 0 && errno != EEXIST) {
     fail(path);
   }
+}
+
+Descriptor PhoneFolder::hold(std::chrono::milliseconds patience) const {
+  using Clock = std::chrono::steady_clock;
+  // Asked for again and again: a signal has to reach the program while it waits.
+  constexpr std::chrono::milliseconds pause{2};
+  Descriptor folder = open("/", O_RDONLY | O_DIRECTORY);
+  for (const auto end = Clock::now() + patience; flock(folder.number(), LOCK_EX | LOCK_NB) < 0;) {
+    if (errno != EWOULDBLOCK && errno != EINTR) fail("/");
+    if (Clock::now() >= end) fail("/", EWOULDBLOCK);
+    std::this_thread::sleep_for(pause);
+  }
+  return folder;
 }
 
 void PhoneFolder::sweep(std::string_view path) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -55,6 +56,11 @@ class PhoneFolder {
 
   /// Makes a symbolic link at `path`, unless something stands there.
   void makeLink(std::string_view path, const std::string& target) const;
+
+  /// Holds the whole folder for this program as long as the answer lives, as far as others ask for
+  /// it as well; what merely reads need not. Throws with `std::errc::operation_would_block` when
+  /// another program keeps it for longer than `patience`.
+  Descriptor hold(std::chrono::milliseconds patience) const;
 
   /// Deletes what an interrupted `replace` left in a folder. Nothing happens while another program
   /// is replacing a file there.

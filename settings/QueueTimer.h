@@ -12,10 +12,9 @@ namespace settings {
 /// Lets the phone's main queue run on the event loop, which has work as long as something waits.
 class QueueTimer {
  public:
-  /// `ran` is told whenever the queue has run. Nothing may wait in the queue yet.
-  QueueTimer(
-      boost::asio::io_context& loop, desktop::MainQueue& queue, std::function<void()> ran = [] {})
-      : timer_(loop), queue_(queue), ran_(std::move(ran)) {
+  /// `run` lets the queue do what is due. Nothing may wait in the queue yet.
+  QueueTimer(boost::asio::io_context& loop, desktop::MainQueue& queue, std::function<void()> run)
+      : timer_(loop), queue_(queue), run_(std::move(run)) {
     queue_.added = [this] { arm(); };
   }
   QueueTimer(const QueueTimer&) = delete;
@@ -30,15 +29,14 @@ class QueueTimer {
     timer_.expires_at(*due);
     timer_.async_wait([this](boost::system::error_code error) {
       if (error) return;
-      queue_.run();
-      ran_();
+      run_();
       arm();
     });
   }
 
   boost::asio::steady_timer timer_;
   desktop::MainQueue& queue_;
-  std::function<void()> ran_;
+  std::function<void()> run_;
 };
 
 }  // namespace settings

@@ -14,6 +14,20 @@
 
 namespace settings {
 
+namespace {
+
+/// Carries out a touch while no other program changes anything.
+void touchAlone(Session& session, Viewport& viewport, std::string_view message) {
+  try {
+    const desktop::Descriptor held = session.alone();
+    touch(session.phone.springBoard, viewport, message);
+  } catch (const Busy& reason) {
+    throw RefusedTouch(reason.what());
+  }
+}
+
+}  // namespace
+
 void serve(const Options& options) {
   boost::asio::io_context loop(1);
   Session session(options, loop);
@@ -21,12 +35,16 @@ void serve(const Options& options) {
   const Screen screen(board);
   Pictures pictures;
 
-  Server server(
-      loop, options.port,
-      {[&](const Viewport& viewport) { return screen.tree(viewport, pictures); },
-       [&](Viewport& viewport, std::string_view message) { touch(board, viewport, message); },
-       [&](std::string_view address) { return screen.file(address, pictures); }});
-  const QueueTimer timer(loop, session.phone.mainQueue, [&] { server.refresh(); });
+  Server server(loop, options.port,
+                {[&](const Viewport& viewport) { return screen.tree(viewport, pictures); },
+                 [&](Viewport& viewport, std::string_view message) {
+                   touchAlone(session, viewport, message);
+                 },
+                 [&](std::string_view address) { return screen.file(address, pictures); }});
+  const QueueTimer timer(loop, session.phone.mainQueue, [&] {
+    session.runQueue();
+    server.refresh();
+  });
 
   boost::asio::signal_set signals(loop, SIGINT, SIGTERM);
   signals.async_wait([&](auto, auto) { loop.stop(); });

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <boost/asio/io_context.hpp>
+#include <stdexcept>
 
 #include "desktop/Phone.h"
 #include "settings/Commands.h"
@@ -8,12 +9,27 @@
 
 namespace settings {
 
+/// Another program has had the phone's folder for too long. `what()` says so to the user.
+class Busy : public std::runtime_error {
+ public:
+  Busy() : std::runtime_error("another program is busy with this phone's folder") {}
+};
+
 /// A phone, switched on as the command line says, with the Settings application at the add-on's
 /// first page.
 class Session {
  public:
   /// Throws `std::runtime_error` with a message for the user.
   Session(const Options& options, boost::asio::io_context& loop);
+
+  /// The phone's folder for this program alone, as long as the answer lives: while one touch,
+  /// command or put-off piece of work is handled, so that two programs on one folder never lose
+  /// each other's changes. Throws `Busy` when another program keeps it.
+  desktop::Descriptor alone() const;
+
+  /// Lets the main queue do what is due, alone. What another program keeps it from is reported, and
+  /// due still.
+  void runQueue();
 
   desktop::Phone phone;
 

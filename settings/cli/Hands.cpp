@@ -26,7 +26,10 @@ bool cancels(const platform::UIAlertAction& action) {
 }  // namespace
 
 Hands::Hands(const Options& options)
-    : session_(options, loop_), timer_(loop_, session_.phone.mainQueue) {
+    : session_(options, loop_),
+      timer_(loop_, session_.phone.mainQueue, [this] { session_.runQueue(); }) {
+  const SubCommand* const command = options.subCommand;
+  if (command && command->effect == SubCommand::Effect::Changes) held_.emplace(session_.alone());
   session_.phone.report = [this, say = session_.phone.report](const std::string& line) {
     // What a restart finds has nothing to do with the change before it.
     if (board().phase() == Phase::Running) complained_ = true;
@@ -59,7 +62,9 @@ void Hands::answerAlert(bool confirmed) {
 
 void Hands::change(const std::function<void()>& touch) {
   complained_ = false;
+  if (!held_) held_.emplace(session_.alone());
   touch();
+  held_.reset();    // The user's commands may take their time.
   loop_.restart();  // The change before this one left the loop out of work, and so stopped.
   while (!board().isStuck() && loop_.run_one() > 0) {
   }

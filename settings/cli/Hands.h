@@ -2,6 +2,7 @@
 
 #include <boost/asio/io_context.hpp>
 #include <functional>
+#include <optional>
 #include <string_view>
 
 #include "desktop/UIKit/AlertBody.h"
@@ -46,6 +47,9 @@ class Hands {
   boost::asio::io_context loop_{1};
   Session session_;
   QueueTimer timer_;
+  /// The phone's folder for a command that changes something, from what it reads first to its
+  /// change.
+  std::optional<desktop::Descriptor> held_;
   bool complained_ = false;
 };
 
