@@ -55,21 +55,34 @@ scenario('fast scrolling asks for rows at most once a frame, and leaves no gap',
   phoneWith(5000),
   async (screen) => {
     await screen.push('Lotties');
-    const before = screen.touches.length;
-    const frames = await list(screen).content.evaluate(async (content) => {
-      let count = 0;
+    // In which frame the page asked, each time.
+    const asked = await screen.page.evaluateHandle(() => {
+      const frames = [];
+      let frame = 0;
+      const count = () => {
+        frame += 1;
+        requestAnimationFrame(count);
+      };
+      count();
+      const { send } = WebSocket.prototype;
+      WebSocket.prototype.send = function (text) {
+        if (JSON.parse(text).kind === 'window') frames.push(frame);
+        send.call(this, text);
+      };
+      return frames;
+    });
+    await list(screen).content.evaluate(async (content) => {
       for (let i = 0; i < 60; ++i) {
         content.scrollTop += 3;
         content.scrollTop += 700;
         await new Promise(requestAnimationFrame);
-        count += 1;
       }
-      return count;
     });
     await eventually(() => expectFilled(screen));
     await screen.answered();
-    const asked = screen.touches.slice(before).filter(({ kind }) => kind === 'window');
-    assert.ok(asked.length > 5 && asked.length <= frames + 2, `${asked.length} in ${frames}`);
+    const frames = await asked.jsonValue();
+    assert.ok(frames.length > 5);
+    assert.deepEqual(frames, [...new Set(frames)]);
   });
 
 scenario('the list stays scrolled where it was when a row moves to the other section',
