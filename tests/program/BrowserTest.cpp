@@ -7,8 +7,8 @@
 #include <iterator>
 #include <thread>
 
-#include "tests/program/Program.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/support/program/Program.h"
 
 namespace program_tests {
 namespace {

@@ -5,9 +5,9 @@
 #include <gtest/gtest.h>
 #include <thread>
 
-#include "tests/program/Connection.h"
-#include "tests/program/Program.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/support/program/Connection.h"
+#include "tests/support/program/Program.h"
 
 namespace program_tests {
 namespace {

@@ -4,7 +4,7 @@
 #include <ostream>
 #include <random>
 
-#include "tests/program/RunningProgram.h"
+#include "tests/support/program/RunningProgram.h"
 
 namespace program_tests {
 namespace {

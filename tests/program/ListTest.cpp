@@ -2,7 +2,7 @@
 #include <fstream>
 #include <gmock/gmock.h>
 
-#include "tests/program/SubCommands.h"
+#include "tests/support/program/SubCommands.h"
 
 namespace program_tests {
 namespace {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "tests/program/SubCommands.h"
+#include "tests/support/program/SubCommands.h"
 
 namespace program_tests {
 namespace {

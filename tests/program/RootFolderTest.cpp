@@ -4,8 +4,8 @@
 #include <fstream>
 #include <gtest/gtest.h>
 
-#include "tests/program/Program.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/support/program/Program.h"
 
 namespace program_tests {
 namespace {

@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 #include <thread>
 
-#include "tests/program/SubCommands.h"
-#include "tests/program/WebSocket.h"
+#include "tests/support/program/SubCommands.h"
+#include "tests/support/program/WebSocket.h"
 
 namespace program_tests {
 namespace {

@@ -5,8 +5,8 @@
 
 #include "desktop/PhoneFolder.h"
 #include "plist/Document.h"
-#include "tests/program/RunningProgram.h"
-#include "tests/program/WebSocket.h"
+#include "tests/support/program/RunningProgram.h"
+#include "tests/support/program/WebSocket.h"
 
 namespace program_tests {
 namespace {

@@ -1,8 +1,8 @@
 #include <csignal>
 #include <gtest/gtest.h>
 
-#include "tests/program/SubCommands.h"
-#include "tests/program/WebSocket.h"
+#include "tests/support/program/SubCommands.h"
+#include "tests/support/program/WebSocket.h"
 
 namespace program_tests {
 namespace {

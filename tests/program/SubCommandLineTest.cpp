@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 #include <sstream>
 
-#include "tests/program/SubCommands.h"
+#include "tests/support/program/SubCommands.h"
 
 namespace program_tests {
 namespace {

@@ -4,8 +4,8 @@
 #include <iterator>
 
 #include "plist/Document.h"
-#include "tests/program/RunningProgram.h"
-#include "tests/program/WebSocket.h"
+#include "tests/support/program/RunningProgram.h"
+#include "tests/support/program/WebSocket.h"
 
 namespace program_tests {
 namespace {

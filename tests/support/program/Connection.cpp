@@ -1,4 +1,4 @@
-#include "tests/program/Connection.h"
+#include "tests/support/program/Connection.h"
 
 #include <algorithm>
 #include <arpa/inet.h>

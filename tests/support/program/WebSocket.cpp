@@ -1,4 +1,4 @@
-#include "tests/program/WebSocket.h"
+#include "tests/support/program/WebSocket.h"
 
 namespace program_tests {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "tests/program/Connection.h"
+#include "tests/support/program/Connection.h"
 
 namespace program_tests {
 

@@ -1,4 +1,4 @@
-#include "tests/program/SubCommands.h"
+#include "tests/support/program/SubCommands.h"
 
 #include <csignal>
 #include <fstream>

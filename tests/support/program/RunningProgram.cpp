@@ -1,4 +1,4 @@
-#include "tests/program/RunningProgram.h"
+#include "tests/support/program/RunningProgram.h"
 
 #include <csignal>
 

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "plist/Document.h"
-#include "tests/program/Program.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/support/program/Program.h"
 
 namespace program_tests {
 

@@ -1,4 +1,4 @@
-#include "tests/program/Program.h"
+#include "tests/support/program/Program.h"
 
 #include <algorithm>
 #include <array>
