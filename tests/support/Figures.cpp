@@ -12,7 +12,7 @@ bool isLong() {
 
 std::string grouped(std::uint64_t number) {
   std::string text = std::to_string(number);
-  for (std::size_t end = text.size(); end > 3; end -= 3) text.insert(end - 3, ",");
+  for (std::size_t end = text.size(); end > 3; end -= 3) text.insert(end - 3, 1, ',');
   return text;
 }
 
