@@ -29,6 +29,9 @@ class Connection {
   /// Whether the server closes the connection within 10 seconds, with nothing more sent.
   bool isClosed() const;
 
+  /// The socket, for what looks after several at once.
+  int number() const { return socket_; }
+
  private:
   int socket_;
 };

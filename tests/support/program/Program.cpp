@@ -50,6 +50,7 @@ void setEnvironment(const Start& start) {
   dup2(pipes[0][1], STDOUT_FILENO);
   dup2(pipes[1][1], STDERR_FILENO);
   if (start.output == Start::Output::Closed) close(STDOUT_FILENO);
+  if (start.errors == Start::Output::Closed) close(STDERR_FILENO);
   setEnvironment(start);
   if (start.openFiles) limitOpenFiles(*start.openFiles);
   if (start.unprivileged) becomeNobody();
@@ -84,13 +85,11 @@ Program::Program(const Start& start) {
   process_ = fork();
   if (process_ < 0) throw std::runtime_error("no process");
   if (process_ == 0) become(start, pipes);
+  const Start::Output outputs[] = {start.output, start.errors};
   for (int i = 0; i < 2; ++i) {
     close(pipes[i][1]);
     streams_[i] = pipes[i][0];
-  }
-  if (start.output == Start::Output::Broken) {
-    close(streams_[0]);
-    streams_[0] = -1;
+    if (outputs[i] == Start::Output::Broken) close(std::exchange(streams_[i], -1));
   }
 }
 

@@ -21,7 +21,9 @@ struct Start {
   /// What is typed on the terminal that standard input and standard error then are. Without one,
   /// nothing can be read.
   std::optional<std::string> typed{};
-  enum class Output { Read, Closed, Broken } output = Output::Read;
+  /// What becomes of standard output and of standard error. What is Read is read while something of
+  /// it is waited for; until then it waits in a pipe, which can be full.
+  enum class Output { Read, Closed, Broken } output = Output::Read, errors = Output::Read;
 };
 
 /// How the program ended.
@@ -51,6 +53,8 @@ class Program {
   /// What the program has open under that number.
   std::string openFile(int number) const;
 
+  /// By which the system knows it, in /proc for one (proc(5)).
+  pid_t process() const { return process_; }
   void signal(int number) const;
   /// Waits for the end, 30 seconds at most; then it is killed.
   End end();

@@ -38,6 +38,8 @@ class WebSocket {
   /// The next message; null when the socket is closed instead.
   nlohmann::json message() const;
 
+  const Connection& connection() const { return connection_; }
+
  private:
   Connection connection_;
   int status_;
