@@ -7,25 +7,49 @@
 #include <sstream>
 #include <thread>
 
+#include "plist/Document.h"
 #include "tests/support/Figures.h"
 
 namespace promises {
 
 namespace fs = std::filesystem;
 
-WebSocket Served::page() const {
-  WebSocket socket(port, filled("Cookie: {COOKIE}\r\nOrigin: {ORIGIN}\r\n"));
+namespace {
+
+WebSocket openPage(std::uint16_t port, const std::string& fields) {
+  WebSocket socket(port, fields);
   EXPECT_EQ(socket.status(), 101);
   EXPECT_EQ(socket.message()["kind"], "screen");
   return socket;
 }
 
-WebSocket Served::clockPage() const {
-  WebSocket socket = page();
+}  // namespace
+
+std::string letInBy(program_tests::Program& program) {
+  const std::string host = "127.0.0.1:" + std::to_string(program.port());
+  const std::string given = program_tests::fieldOf(
+      program_tests::answerTo(program.port(), "GET " + program.invitation() +
+                                                  " HTTP/1.0\r\nHost: " + host + "\r\n\r\n"),
+      "Set-Cookie");
+  return "Cookie: " + given.substr(0, given.find(';')) + "\r\nOrigin: http://" + host + "\r\n";
+}
+
+WebSocket openClockPage(std::uint16_t port, const std::string& fields) {
+  WebSocket socket = openPage(port, fields);
   socket.touch(openClock);
   EXPECT_TRUE(socket.message()["nodes"].contains(sizeRow));
   return socket;
 }
+
+std::optional<double> numberIn(const fs::path& preferences, const char* key) {
+  std::ifstream stream(preferences, std::ios::binary);
+  if (!stream) return std::nullopt;
+  const plist::Document document = plist::read({std::istreambuf_iterator<char>(stream), {}});
+  const plist::Value* found = document.root.dictionary()->find(key);
+  return found ? found->real() : std::nullopt;
+}
+
+WebSocket Served::page() const { return openPage(port, fields()); }
 
 Use Served::use() const {
   const fs::path process = "/proc/" + std::to_string(program.process());

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <filesystem>
+#include <optional>
 #include <string>
 
 #include "tests/support/program/RunningProgram.h"
@@ -17,14 +19,24 @@ struct Use {
   std::size_t descriptors;  ///< Open files, sockets among them.
 };
 
+/// What a browser that a program has let in says with its handshake.
+std::string letInBy(program_tests::Program& program);
+
+/// A page that has the whole screen; it leads to the Clock page, whose rows are named below.
+WebSocket openClockPage(std::uint16_t port, const std::string& fields);
+
+inline const nlohmann::json openClock{{"kind", "tap"}, {"id", "page1.group0.row1"}};
+
+/// The number that the preferences hold; none when there is no such key.
+std::optional<double> numberIn(const std::filesystem::path& preferences, const char* key);
+
 /// The program, and what it takes of the machine.
 class Served : public program_tests::RunningProgram {
  protected:
   /// A page that has the whole screen.
   WebSocket page() const;
-  /// As `page`, and leads to the Clock page, whose rows are named below.
-  WebSocket clockPage() const;
-  const nlohmann::json openClock{{"kind", "tap"}, {"id", "page1.group0.row1"}};
+  WebSocket clockPage() const { return openClockPage(port, fields()); }
+  std::string fields() const { return filled("Cookie: {COOKIE}\r\nOrigin: {ORIGIN}\r\n"); }
 
   Use use() const;
   /// Waits, 10 seconds at most, until the program has no more than that many files open; how many
