@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <sstream>
 
+#include "tests/model/Disk.h"
 #include "tests/model/Operation.h"
 
 namespace model {
@@ -23,46 +24,6 @@ class Differences {
  private:
   std::ostringstream text_;
 };
-
-/// A file: its form and what is in it, as text.
-struct Content {
-  Store::State state = Store::State::Missing;
-  std::optional<plist::Form> form;
-  std::map<std::string, std::string> items;
-};
-
-Content contentOf(const support::Driver& phone) {
-  const auto bytes = phone.fileBytes();
-  if (!bytes) return {};
-  try {
-    const plist::Document document = plist::read(*bytes);
-    Content content{Store::State::Readable, document.form, {}};
-    for (const auto& entry : *document.root.dictionary()) {
-      content.items[std::string(entry.key())] = textOf(entry.value());
-    }
-    return content;
-  } catch (const plist::Unreadable&) {
-    return {Store::State::Unreadable, {}, {}};
-  }
-}
-
-std::map<std::string, std::string> textsOf(const Items& items) {
-  std::map<std::string, std::string> texts;
-  for (const auto& [key, item] : items) texts[key] = textOf(valueOf(item));
-  return texts;
-}
-
-void compareFile(World& world, Differences& differences) {
-  const Store& store = world.screen.store;
-  const Content content = contentOf(world.phone);
-  differences.compare("state of the file", static_cast<int>(store.state),
-                      static_cast<int>(content.state));
-  differences.compare("file", textsOf(store.items), content.items);
-  if (content.form && store.state == Store::State::Readable) {
-    differences.compare("form of the file", static_cast<int>(store.form),
-                        static_cast<int>(*content.form));
-  }
-}
 
 void compareService(World& world, std::size_t step, Differences& differences) {
   Names keys = {"enabledSwitch", "showedWelcomeVC", "enabledLotties", "foreign"};
@@ -134,7 +95,7 @@ void comparePage(World& world, Differences& differences) {
 std::string difference(World& world, std::size_t step) {
   Differences differences;
   differences.compare("notifications", world.screen.posted, world.phone.notifications());
-  compareFile(world, differences);
+  differences.compare("on disk", textOf(world.screen.store), textOnDisk(world.folder));
   compareService(world, step, differences);
   differences.compare("restarting", world.screen.isRestarting, world.phone.isRestarting());
   if (!world.screen.isRestarting && !world.phone.isRestarting()) {

@@ -5,56 +5,45 @@ namespace model {
 
 namespace {
 
-Names animationsIn(const Names& files) {
-  const std::string ending = ".lottie";
-  Names names;
-  for (const std::string& file : files) {
-    if (file.ends_with(ending)) names.push_back(file.substr(0, file.size() - ending.size()));
-  }
-  return names;
+using support::Driver;
+
+Deed openList(Screen& screen, unsigned, unsigned) {
+  screen.open("Lotties");
+  return {"", [](Driver& phone) { phone.tap("Lotties"); }};
 }
 
-std::string openList(World& world, unsigned, unsigned) {
-  const Names names = animationsIn(world.phone.animationFiles());
-  world.phone.tap("Lotties");
-  world.screen.open("Lotties", names);
-  return "";
+Deed insert(Screen& screen, unsigned first, unsigned) {
+  const std::size_t row = first % screen.disabled.size();
+  screen.insert(row);
+  return {std::to_string(row), [row](Driver& phone) { phone.insert(row); }};
 }
 
-std::string insert(World& world, unsigned first, unsigned) {
-  const std::size_t row = first % world.screen.disabled.size();
-  world.phone.insert(row);
-  world.screen.insert(row);
-  return std::to_string(row);
+Deed remove(Screen& screen, unsigned first, unsigned) {
+  const std::size_t row = first % screen.enabled.size();
+  screen.remove(row);
+  return {std::to_string(row), [row](Driver& phone) { phone.remove(row); }};
 }
 
-std::string remove(World& world, unsigned first, unsigned) {
-  const std::size_t row = first % world.screen.enabled.size();
-  world.phone.remove(row);
-  world.screen.remove(row);
-  return std::to_string(row);
-}
-
-std::string drag(World& world, unsigned first, unsigned second) {
-  const std::size_t rows = world.screen.enabled.size();
+Deed drag(Screen& screen, unsigned first, unsigned second) {
+  const std::size_t rows = screen.enabled.size();
   const std::size_t row = first % rows;
   const std::size_t toRow = second % rows;
-  world.phone.drag(0, row, 0, toRow);
-  world.screen.drag(row, toRow);
-  return std::to_string(row) + " to " + std::to_string(toRow);
+  screen.drag(row, toRow);
+  return {std::to_string(row) + " to " + std::to_string(toRow),
+          [row, toRow](Driver& phone) { phone.drag(0, row, 0, toRow); }};
 }
 
 /// A drag into the other section leads nowhere.
-std::string dragAway(World& world, unsigned first, unsigned second) {
-  const std::size_t row = first % world.screen.enabled.size();
-  world.phone.drag(0, row, 1, second % 3);
-  return std::to_string(row);
+Deed dragAway(Screen& screen, unsigned first, unsigned second) {
+  const std::size_t row = first % screen.enabled.size();
+  return {std::to_string(row),
+          [row, toRow = second % 3](Driver& phone) { phone.drag(0, row, 1, toRow); }};
 }
 
-std::string dragDisabled(World& world, unsigned first, unsigned second) {
-  const std::size_t row = first % world.screen.disabled.size();
-  world.phone.drag(1, row, second % 2, 0);
-  return std::to_string(row);
+Deed dragDisabled(Screen& screen, unsigned first, unsigned second) {
+  const std::size_t row = first % screen.disabled.size();
+  return {std::to_string(row),
+          [row, section = second % 2](Driver& phone) { phone.drag(1, row, section, 0); }};
 }
 
 bool hasDisabled(const Screen& screen) {

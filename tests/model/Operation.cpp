@@ -2,6 +2,15 @@
 
 namespace model {
 
+World::World(const std::filesystem::path& itsFolder, Kept kept)
+    : folder(itsFolder), screen(std::move(kept)) {
+  // No operation depends on what the header shows, and to draw the large picture for each first
+  // page would take most of the time.
+  const std::filesystem::path bundle = folder / "Library/PreferenceBundles/Quillmere.bundle";
+  std::filesystem::copy_file(bundle / "Icon@2x.png", bundle / "Header.png",
+                             std::filesystem::copy_options::overwrite_existing);
+}
+
 const std::vector<Rule>& rules() {
   static const std::vector<Rule> all = [] {
     std::vector<Rule> joined;

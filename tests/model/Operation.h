@@ -1,7 +1,10 @@
 #pragma once
 
+#include <filesystem>
+#include <functional>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tests/model/Screen.h"
@@ -18,10 +21,19 @@ struct Operation {
 };
 using Operations = std::vector<Operation>;
 
-/// A phone and what should be seen of it.
+/// A phone and what should be seen of it. What the phone keeps in `folder`, `kept` has to tell.
 struct World {
-  support::Driver phone;
+  explicit World(const std::filesystem::path& itsFolder, Kept kept = {});
+
+  std::filesystem::path folder;
+  support::Driver phone{folder};
   Screen screen;
+};
+
+/// What is left to do of an operation once the model has done it.
+struct Deed {
+  std::string what;  ///< More of it than its rule's name; may be empty.
+  std::function<void(support::Driver& phone)> onPhone;
 };
 
 /// A kind of operation.
@@ -30,8 +42,8 @@ struct Rule {
   unsigned weight;  ///< How often it comes, compared with the others.
   /// Whether it can be done now; if not, it is passed over.
   bool (*applies)(const Screen& screen);
-  /// Does it to both, and says to what.
-  std::string (*act)(World& world, unsigned first, unsigned second);
+  /// Does it to the model, and says what to do to the phone.
+  Deed (*act)(Screen& screen, unsigned first, unsigned second);
 };
 
 std::vector<Rule> pageRules();

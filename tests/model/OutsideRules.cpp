@@ -7,6 +7,8 @@ namespace model {
 
 namespace {
 
+using support::Driver;
+
 constexpr const char* garbage = "no property list";
 
 /// Values that the key's owner takes, next to some that it does not.
@@ -60,49 +62,47 @@ std::pair<std::string, Item> entry(unsigned first, unsigned second) {
   return {"enabledLotties", listItem(second)};
 }
 
-void put(World& world, const Items& items, plist::Form form) {
-  plist::Dictionary dictionary;
-  for (const auto& [key, item] : items) dictionary.set(key, valueOf(item));
-  world.phone.putFile(dictionary, form);
-  world.screen.store.replace(items, form);
+Deed put(Screen& screen, const std::string& what, const Items& items, plist::Form form) {
+  screen.store.replace(items, form);
+  return {what, [items, form](Driver& phone) {
+            plist::Dictionary dictionary;
+            for (const auto& [key, item] : items) dictionary.set(key, valueOf(item));
+            phone.putFile(dictionary, form);
+          }};
 }
 
 plist::Form formOf(unsigned number) {
   return number % 2 == 0 ? plist::Form::Xml : plist::Form::Binary;
 }
 
-std::string replaceFile(World& world, unsigned first, unsigned second) {
+Deed replaceFile(Screen& screen, unsigned first, unsigned second) {
   Items items;
   std::mt19937 random(first);
   for (unsigned count = second % 8; count > 0; --count) {
     const auto which = static_cast<unsigned>(random() % 10000);
     items.insert(entry(which, static_cast<unsigned>(random() % 10000)));
   }
-  put(world, items, formOf(first));
-  return std::to_string(items.size());
+  return put(screen, std::to_string(items.size()), items, formOf(first));
 }
 
-std::string changeFile(World& world, unsigned first, unsigned second) {
-  Items items = world.screen.store.items;
+Deed changeFile(Screen& screen, unsigned first, unsigned second) {
+  Items items = screen.store.items;
   const auto [key, item] = entry(first, second);
   items[key] = item;
-  put(world, items, formOf(second / 16));
-  return key;
+  return put(screen, key, items, formOf(second / 16));
 }
 
-std::string removeFile(World& world, unsigned, unsigned) {
-  world.phone.removeFile();
-  world.screen.store.remove();
-  return "";
+Deed removeFile(Screen& screen, unsigned, unsigned) {
+  screen.store.remove();
+  return {"", &Driver::removeFile};
 }
 
-std::string spoilFile(World& world, unsigned, unsigned) {
-  world.phone.putFile(garbage);
-  world.screen.store.spoil();
-  return "";
+Deed spoilFile(Screen& screen, unsigned, unsigned) {
+  screen.store.spoil();
+  return {"", [](Driver& phone) { phone.putFile(garbage); }};
 }
 
-std::string replaceAnimations(World& world, unsigned first, unsigned) {
+Deed replaceAnimations(Screen&, unsigned first, unsigned) {
   constexpr std::array files = {"Clock.lottie", "Rain.lottie",    "Snow.lottie", "Wind.lottie/",
                                 "a.b.lottie",   "Rain.LOTTIE",    "notes.txt",   "Caf\u00e9.lottie",
                                 "Hail.lottie",  "Hail.lottie.bak"};
@@ -110,15 +110,15 @@ std::string replaceAnimations(World& world, unsigned first, unsigned) {
   for (std::size_t i = 0; i < files.size(); ++i) {
     if ((first >> i) % 2 == 0) chosen.emplace_back(files[i]);
   }
-  world.phone.putAnimations(chosen);
-  return std::to_string(chosen.size());
+  return {std::to_string(chosen.size()), [chosen](Driver& phone) { phone.putAnimations(chosen); }};
 }
 
-std::string renewSystem(World& world, unsigned first, unsigned) {
-  const bool isNew = first % 2 == 0;
-  world.phone.setDevice({std::nullopt, isNew ? "14.3" : "12.5", std::nullopt});
-  world.screen.hasWelcome = isNew;
-  return isNew ? "14.3" : "12.5";
+Deed renewSystem(Screen& screen, unsigned first, unsigned) {
+  const char* const version = first % 2 == 0 ? "14.3" : "12.5";
+  screen.hasWelcome = first % 2 == 0;
+  return {version, [version](Driver& phone) {
+            phone.setDevice({std::nullopt, version, std::nullopt});
+          }};
 }
 
 bool always(const Screen&) { return true; }

@@ -8,6 +8,7 @@ namespace model {
 namespace {
 
 using Over = Screen::Over;
+using support::Driver;
 
 bool isRoot(const Screen& screen) { return screen.isOn(""); }
 bool hasRootRows(const Screen& screen) { return isRoot(screen) && !screen.isBlurred; }
@@ -21,70 +22,63 @@ bool isAsking(const Screen& screen) {
          shows<Over::Reset>(screen);
 }
 
-std::string flip(World& world, unsigned first, unsigned second) {
+Deed flip(Screen& screen, unsigned first, unsigned second) {
   const bool on = first % 2 == 0;
   const bool inside = second % 4 != 0;
-  world.phone.flip(on, inside);
-  world.screen.flip(on, inside);
-  return std::string(on ? "on" : "off") + (inside ? "" : ", let go outside");
+  screen.flip(on, inside);
+  return {std::string(on ? "on" : "off") + (inside ? "" : ", let go outside"),
+          [on, inside](Driver& phone) { phone.flip(on, inside); }};
 }
 
-std::string scroll(World& world, unsigned first, unsigned) {
+Deed scroll(Screen& screen, unsigned first, unsigned) {
   constexpr std::array places = {-20.0, 0.0, 59.5, 60.0, 60.5, 300.0};
   const double y = places[first % places.size()];
-  world.phone.scroll(y);
-  world.screen.scroll(y);
-  return std::to_string(y);
+  screen.scroll(y);
+  return {std::to_string(y), [y](Driver& phone) { phone.scroll(y); }};
 }
 
-template <Over screen>
-std::string tap(World& world, unsigned, unsigned) {
-  const std::string label = screen == Over::Respring ? "Respring"
-                            : screen == Over::Reset  ? "Reset All Settings"
-                                                     : "Write to Support";
-  world.phone.tap(label);
-  world.screen.show(screen);
-  return label;
+template <Over over>
+Deed tap(Screen& screen, unsigned, unsigned) {
+  const std::string label = over == Over::Respring ? "Respring"
+                            : over == Over::Reset  ? "Reset All Settings"
+                                                   : "Write to Support";
+  screen.show(over);
+  return {label, [label](Driver& phone) { phone.tap(label); }};
 }
 
-std::string confirm(World& world, unsigned, unsigned) {
-  world.phone.answer("Confirm");
-  world.screen.confirm();
-  return "";
+Deed confirm(Screen& screen, unsigned, unsigned) {
+  screen.confirm();
+  return {"", [](Driver& phone) { phone.answer("Confirm"); }};
 }
 
-std::string cancel(World& world, unsigned, unsigned) {
-  world.phone.answer("Cancel");
-  world.screen.cancel();
-  return "";
+Deed cancel(Screen& screen, unsigned, unsigned) {
+  screen.cancel();
+  return {"", [](Driver& phone) { phone.answer("Cancel"); }};
 }
 
-std::string leaveWelcome(World& world, unsigned, unsigned) {
-  world.phone.leaveWelcome();
-  world.screen.leaveWelcome();
-  return "";
+Deed leaveWelcome(Screen& screen, unsigned, unsigned) {
+  screen.leaveWelcome();
+  return {"", &Driver::leaveWelcome};
 }
 
-std::string endMail(World& world, unsigned first, unsigned) {
-  using End = support::Driver::MailEnd;
-  world.phone.endMail(std::array{End::Send, End::Save, End::Cancel}[first % 3]);
-  world.screen.cancel();
-  return "in way " + std::to_string(first % 3);
+Deed endMail(Screen& screen, unsigned first, unsigned) {
+  using End = Driver::MailEnd;
+  const End end = std::array{End::Send, End::Save, End::Cancel}[first % 3];
+  screen.cancel();
+  return {"in way " + std::to_string(first % 3), [end](Driver& phone) { phone.endMail(end); }};
 }
 
-std::string reopen(World& world, unsigned, unsigned) {
-  world.phone.reopen();
-  world.screen.reopen();
-  return "";
+Deed reopen(Screen& screen, unsigned, unsigned) {
+  screen.reopen();
+  return {"", &Driver::reopen};
 }
 
 /// No multiple of these is 0.1 s, so that nothing depends on which of two came first.
-std::string pass(World& world, unsigned first, unsigned) {
+Deed pass(Screen& screen, unsigned first, unsigned) {
   constexpr std::array times = {0.0625, 0.125, 0.5, 1.0, 2.0, 3.0};
   const double seconds = times[first % times.size()];
-  world.phone.pass(seconds);
-  world.screen.pass(seconds);
-  return std::to_string(seconds);
+  screen.pass(seconds);
+  return {std::to_string(seconds), [seconds](Driver& phone) { phone.pass(seconds); }};
 }
 
 }  // namespace

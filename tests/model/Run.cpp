@@ -3,21 +3,25 @@
 #include <algorithm>
 #include <exception>
 
+#include "tests/model/Disk.h"
+#include "tests/support/TemporaryFolder.h"
+
 namespace model {
 
-namespace {
-
-/// Does the next operation, and notes what came of it.
-void step(World& world, const Operation& operation, Run& run) {
+void step(World& world, const Operation& operation, Run& run, const std::function<void()>& done) {
   const bool wasSpoilt = world.screen.store.state == Store::State::Unreadable;
   world.phone.forget();
   world.screen.posted.clear();
+  world.screen.store.steps.clear();
+  world.screen.animations = animationsIn(world.folder);
   run.operations.push_back(operation);
   const Rule& rule = rules()[operation.rule];
   run.trace.emplace_back(rule.name);
   try {
-    const std::string what = rule.act(world, operation.first, operation.second);
-    if (!what.empty()) run.trace.back() += ' ' + what;
+    const Deed deed = rule.act(world.screen, operation.first, operation.second);
+    if (!deed.what.empty()) run.trace.back() += ' ' + deed.what;
+    deed.onPhone(world.phone);
+    done();
     run.failure = difference(world, run.operations.size());
   } catch (const std::exception& raised) {
     run.failure = std::string("raised: ") + raised.what() + '\n';
@@ -31,10 +35,9 @@ void step(World& world, const Operation& operation, Run& run) {
   }
 }
 
-}  // namespace
-
 Run runRandom(unsigned seed, std::size_t count) {
-  World world;
+  const support::TemporaryFolder folder;
+  World world(folder.path);
   Run run;
   std::mt19937 random(seed);
   while (run.operations.size() < count && run.failure.empty()) {
@@ -44,7 +47,8 @@ Run runRandom(unsigned seed, std::size_t count) {
 }
 
 Run replay(const Operations& operations) {
-  World world;
+  const support::TemporaryFolder folder;
+  World world(folder.path);
   Run run;
   for (const Operation& operation : operations) {
     if (!run.failure.empty()) break;

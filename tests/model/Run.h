@@ -14,6 +14,10 @@ struct Run {
   std::string failure;    ///< Empty when the phone was as it should be all the time.
 };
 
+/// Does an operation, tells that it is done, and notes what came of it.
+void step(
+    World& world, const Operation& operation, Run& run, const std::function<void()>& done = [] {});
+
 /// That many random operations.
 Run runRandom(unsigned seed, std::size_t count);
 

@@ -1,6 +1,7 @@
 #include "tests/model/Screen.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace model {
 
@@ -24,7 +25,7 @@ std::string take(Names& names, std::size_t row) {
 
 }  // namespace
 
-Screen::Screen() { start(); }
+Screen::Screen(Kept kept) : store(std::move(kept)) { start(); }
 
 void Screen::start() {
   isRestarting = false;
@@ -44,21 +45,21 @@ void Screen::appear() {
   if (hasWelcome && !isCovered() && !store.value(seenKey)) show(Over::Welcome);
 }
 
-void Screen::open(const std::string& name, const Names& files) {
+void Screen::open(const std::string& name) {
   page = name;
   store.settle();
-  if (name == "Lotties") drawList(files);
+  if (name == "Lotties") drawList();
   for (const Setting& setting : settings()) {
     if (setting.page == name) shown[setting.key] = setting.shown(store.inFile(setting.key));
   }
 }
 
-void Screen::drawList(const Names& files) {
+void Screen::drawList() {
   const auto stored = store.value(listKey);
   const auto* names = stored ? std::get_if<Names>(&*stored) : nullptr;
   enabled = names ? *names : stored ? Names() : Names{"Clock", "Nice Buttons"};
   disabled.clear();
-  std::ranges::copy_if(files, std::back_inserter(disabled),
+  std::ranges::copy_if(animations, std::back_inserter(disabled),
                        [this](const auto& name) { return !holds(enabled, name); });
 }
 

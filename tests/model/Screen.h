@@ -13,13 +13,13 @@ namespace model {
 /// the bundle promises and not from how it keeps that.
 class Screen {
  public:
-  Screen();
+  explicit Screen(Kept kept = {});
 
   enum class Over { Nothing, Respring, SwitchRespring, Reset, Welcome, Mail };
 
   /// @name The user's hands
   /// @{
-  void open(const std::string& page, const Names& files = {});
+  void open(const std::string& name);
   void back();
   void change(const Setting& setting, const Item& stored);
   void flip(bool on, bool inside);
@@ -40,7 +40,8 @@ class Screen {
   bool isCovered() const { return over != Over::Nothing; }
 
   Store store;
-  Names posted;  ///< Notifications since somebody emptied this.
+  Names posted;      ///< Notifications since somebody emptied this.
+  Names animations;  ///< Those installed, in their folder's own order, which nobody can foretell.
 
   bool isRestarting = false;
   bool hasWelcome = false;  ///< Whether the system is one that has the welcome screen.
@@ -58,7 +59,7 @@ class Screen {
   void start();
   void appear();
   void drawRoot();
-  void drawList(const Names& files);
+  void drawList();
   void respring();
   void eraseFile();
   void storeList();

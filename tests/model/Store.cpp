@@ -35,11 +35,14 @@ std::string textOf(const plist::Value& value) {
 }
 
 void Store::make() {
-  if (state == State::Missing) replace({}, plist::Form::Binary);
+  if (state != State::Missing) return;
+  state = State::Readable;
+  form = plist::Form::Binary;
 }
 
 void Store::writeThroughPage(const std::string& key, const Item& item) {
   if (state == State::Readable) items[key] = item;
+  written();
 }
 
 void Store::writeThroughList(const std::string& key, const Item& item) {
@@ -51,6 +54,7 @@ void Store::set(const std::string& key, const Item& item) {
   settle();
   if (state != State::Unreadable) return writeThroughList(key, item);
   pending[key] = item;
+  written();
 }
 
 void Store::clear() {
@@ -58,6 +62,7 @@ void Store::clear() {
   cleared = state == State::Unreadable;
   pending.clear();
   items.clear();
+  written();
 }
 
 std::optional<Item> Store::value(const std::string& key) {
@@ -72,8 +77,10 @@ void Store::settle() {
   if (cleared) items.clear();
   if (!pending.empty()) make();
   for (const auto& [key, item] : pending) items[key] = item;
+  written();  // Merged, and still kept: to merge them once more changes nothing.
   pending.clear();
   cleared = false;
+  written();
 }
 
 std::optional<Item> Store::inFile(const std::string& key) const {
@@ -84,17 +91,20 @@ std::optional<Item> Store::inFile(const std::string& key) const {
 void Store::remove() {
   state = State::Missing;
   items.clear();
+  written();
 }
 
 void Store::spoil() {
   state = State::Unreadable;
   items.clear();
+  written();
 }
 
 void Store::replace(Items its, plist::Form itsForm) {
   state = State::Readable;
   items = std::move(its);
   form = itsForm;
+  written();
 }
 
 }  // namespace model

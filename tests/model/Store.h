@@ -4,6 +4,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -23,9 +24,22 @@ plist::Value valueOf(const Item& item);
 /// A value as text, which tells the types apart, but not the two widths of reals: XML knows one.
 std::string textOf(const plist::Value& value);
 
-/// The preferences file as it should be, and what the service should keep beside it.
-struct Store {
+/// What outlives the program: the preferences file and what is kept beside it.
+struct Kept {
   enum class State { Missing, Unreadable, Readable };
+
+  State state = State::Missing;
+  plist::Form form = plist::Form::Binary;
+  Items items;
+
+  bool cleared = false;  ///< Kept beside the file: all keys were removed,
+  Items pending;         ///< and then these were set.
+};
+
+/// The preferences file as it should be, and what the service should keep beside it.
+struct Store : Kept {
+  Store() = default;
+  explicit Store(Kept kept) : Kept(std::move(kept)) {}
 
   /// What a page does to the file itself: nothing unless it can be read.
   void writeThroughPage(const std::string& key, const Item& item);
@@ -51,15 +65,13 @@ struct Store {
 
   bool keepsChanges() const { return cleared || !pending.empty(); }
 
-  State state = State::Missing;
-  plist::Form form = plist::Form::Binary;
-  Items items;
-
-  bool cleared = false;  ///< Kept beside the file: all keys were removed,
-  Items pending;         ///< and then these were set.
+  /// What was kept after each step that writes, since somebody emptied this. A program that is
+  /// killed leaves one of these, or what was there before them.
+  std::vector<Kept> steps;
 
  private:
   void make();
+  void written() { steps.push_back(*this); }
 };
 
 }  // namespace model

@@ -48,7 +48,13 @@ std::string shownBy(const desktop::AnyCell& any) {
 
 }  // namespace
 
-Driver::Driver() : state_(std::make_unique<State>()) { forget(); }
+Driver::Driver() : Driver(std::make_unique<TemporaryFolder>()) {}
+Driver::Driver(std::unique_ptr<TemporaryFolder> folder) : Driver(folder->path) {
+  folder_ = std::move(folder);
+}
+Driver::Driver(const std::filesystem::path& folder) : state_(std::make_unique<State>(folder)) {
+  forget();
+}
 Driver::~Driver() { record(journal()); }
 
 void Driver::tap(const std::string& label) {

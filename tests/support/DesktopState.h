@@ -15,19 +15,19 @@
 #include "platform/Preferences/PSListController.h"
 #include "settings/PhoneSetup.h"
 #include "tests/support/Driver.h"
-#include "tests/support/TemporaryFolder.h"
 
 namespace support {
 
 /// The driver over the desktop's stand-in phone.
 struct Driver::State {
-  State() : phone(folder.path) {
+  explicit State(const std::filesystem::path& folder) : path(folder), phone(path) {
     phone.report = [this](const std::string& line) { reports.push_back(line); };
     phone.notifications.observe([this](const std::string& name) { posted.push_back(name); });
     phone.journal.start();
     phone.mainQueue.now = [this] { return time; };
     phone.identity = {std::nullopt, "12.5", std::nullopt};
     settings::setUpPhone(phone.folder);
+    phone.preferences.settleAll();
     open();
   }
 
@@ -90,11 +90,9 @@ struct Driver::State {
     return specifier;
   }
 
-  std::filesystem::path animationFolder() const {
-    return folder.path / "Library/Lotties/Quillmere";
-  }
+  std::filesystem::path animationFolder() const { return path / "Library/Lotties/Quillmere"; }
 
-  TemporaryFolder folder;
+  std::filesystem::path path;
   std::vector<std::string> reports;
   std::vector<std::string> posted;
   desktop::Phone phone;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -7,6 +8,7 @@
 #include <vector>
 
 #include "plist/Document.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace support {
 
@@ -100,7 +102,11 @@ struct Device {
 /// through it alone, so that they run over every implementation of the platform.
 class Driver {
  public:
+  /// A new phone, which goes with the driver.
   Driver();
+  /// The phone in that folder, made when the folder is empty, and started as the program starts
+  /// it. The folder stays.
+  explicit Driver(const std::filesystem::path& folder);
   ~Driver();
 
   /// @name The user's hands. Each throws `std::runtime_error` when there is no such thing to touch.
@@ -234,6 +240,9 @@ class Driver {
   std::vector<std::string> reports() const;
 
  private:
+  explicit Driver(std::unique_ptr<TemporaryFolder> folder);
+
+  std::unique_ptr<TemporaryFolder> folder_;  ///< None when the phone's folder stays.
   struct State;
   std::unique_ptr<State> state_;
 };

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <sys/types.h>
+
+#include "desktop/Descriptor.h"
+#include "tests/model/Operation.h"
+
+namespace model {
+
+/// A phone and its model in a process of their own, which can be killed at any moment.
+class Victim {
+ public:
+  /// Starts on the phone in that folder, which holds `kept`.
+  Victim(const std::filesystem::path& phone, const Kept& kept);
+  Victim(const Victim&) = delete;
+  Victim& operator=(const Victim&) = delete;
+  ~Victim() { kill(); }
+
+  /// Gives it an operation to do.
+  void order(const Operation& operation) const;
+
+  /// Waits for its next line: after its start "", after each operation first "", which says that it
+  /// is done, then where the phone differs from the model. None when it is dead and said no more.
+  std::optional<std::string> line() const;
+
+  /// Kills it (SIGKILL). What it said before can still be read.
+  void kill();
+
+ private:
+  desktop::Descriptor ours_{-1};
+  pid_t process_ = -1;
+};
+
+}  // namespace model
