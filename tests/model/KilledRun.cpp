@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <thread>
 
 #include "tests/model/Disk.h"
 #include "tests/model/Victim.h"
@@ -16,15 +15,9 @@ namespace {
 constexpr unsigned writingOperationsToAKill = 30;
 constexpr unsigned otherOperationsToAKill = 100;
 constexpr unsigned startsToAKill = 10;
-/// As long as what is killed may take on a slow machine, in microseconds.
+/// As long as what is killed may take, in microseconds.
 constexpr unsigned operationTakes = 500;
 constexpr unsigned startTakes = 20'000;
-
-/// To the microsecond, unlike sleeping, and without keeping the victim from the processor.
-void waitFor(std::chrono::microseconds time) {
-  const auto end = std::chrono::steady_clock::now() + time;
-  while (std::chrono::steady_clock::now() < end) std::this_thread::yield();
-}
 
 class Killing {
  public:
@@ -43,8 +36,9 @@ class Killing {
     do {
       what_ = "the start";
       screen_.emplace(kept_);
-      victim_.emplace(folder_.path, kept_);
-      await(!isFirst && oneIn(startsToAKill), startTakes);
+      const auto death = moment(!isFirst && oneIn(startsToAKill), startTakes);
+      victim_.emplace(folder_.path, kept_, death);
+      await(death.has_value());
     } while (!victim_ && run_.failure.empty());
     for (const std::string& name : leftAside(folder_.path)) fail(name + " is left");
   }
@@ -56,9 +50,11 @@ class Killing {
     remember();
     screen_->animations = animationsIn(folder_.path);
     what_ = rule.name + (' ' + rule.act(*screen_, operation.first, operation.second).what);
-    victim_->order(operation);
     const bool writes = !screen_->store.steps.empty();
-    await(oneIn(writes ? writingOperationsToAKill : otherOperationsToAKill), operationTakes);
+    const auto death =
+        moment(oneIn(writes ? writingOperationsToAKill : otherOperationsToAKill), operationTakes);
+    victim_->order(operation, death);
+    await(death.has_value());
     if (victim_) return expectNothing(victim_->line());
     if (run_.failure.empty()) start();
   }
@@ -69,14 +65,16 @@ class Killing {
     screen_->store.steps.clear();
   }
 
-  /// Waits until it is done, or kills before that or just after it.
-  void await(bool kill, unsigned takes) {
-    // Most are quicker by far: early moments come more often.
-    const std::chrono::microseconds moment(random_() % takes >> random_() % 8);
-    if (kill) {
-      waitFor(moment);
-      victim_->kill();
-    }
+  /// Of something that takes so long at most. Most takes less by far: early moments come more
+  /// often.
+  Victim::Moment moment(bool kill, unsigned takes) {
+    if (!kill) return std::nullopt;
+    return std::chrono::microseconds(1 + (random_() % takes >> random_() % 4));
+  }
+
+  /// Waits until it is done or was killed in the middle of it; kills it just after it at the
+  /// latest.
+  void await(bool kill) {
     const auto line = victim_->line();
     if (line || !kill) expectNothing(line);
     if (line) {

@@ -35,7 +35,7 @@ TEST(RandomOperations, LeaveThePhoneAsTheModelSays) {
                 "0 divergences");
 }
 
-TEST(RandomOperations, AreOfEveryKind) {
+TEST(RandomOperationsOfOneRun, AreOfEveryKind) {
   std::set<std::size_t> kinds;
   for (const model::Operation& each : model::runRandom(1, 2000).operations) kinds.insert(each.rule);
   EXPECT_EQ(kinds.size(), model::rules().size());

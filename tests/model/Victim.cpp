@@ -3,6 +3,7 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <ctime>
 #include <sys/prctl.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
@@ -27,14 +28,31 @@ void say(int socket, const std::string& line) {
   if (send(socket, packet.data(), packet.size(), MSG_NOSIGNAL) < 0) _exit(1);
 }
 
+struct Order {
+  Operation operation;
+  std::chrono::microseconds::rep death;  ///< 0 for none.
+};
+
+/// Lets the kernel kill this process (SIGKILL) after that many microseconds; never after 0.
+void dieAfter(std::chrono::microseconds::rep time) {
+  sigevent event{};
+  event.sigev_notify = SIGEV_SIGNAL;
+  event.sigev_signo = SIGKILL;
+  timer_t timer{};
+  const itimerspec once{{}, {time / 1'000'000, time % 1'000'000 * 1000}};
+  if (timer_create(CLOCK_MONOTONIC, &event, &timer) < 0) fail("timer_create");
+  if (timer_settime(timer, 0, &once, nullptr) < 0) fail("timer_settime");
+}
+
 /// What the process does until it is killed, or nobody orders any more.
 void obey(int socket, const std::filesystem::path& phone, const Kept& kept) {
   World world(phone, kept);
   say(socket, "");
-  Operation operation{};
-  while (recv(socket, &operation, sizeof operation, 0) == sizeof operation) {
+  Order order{};
+  while (recv(socket, &order, sizeof order, 0) == sizeof order) {
     Run run;
-    step(world, operation, run, [socket] { say(socket, ""); });
+    if (order.death > 0) dieAfter(order.death);
+    step(world, order.operation, run, [socket] { say(socket, ""); });
     say(socket, run.failure);
   }
 }
@@ -51,7 +69,7 @@ void obey(int socket, const std::filesystem::path& phone, const Kept& kept) {
 
 }  // namespace
 
-Victim::Victim(const std::filesystem::path& phone, const Kept& kept) {
+Victim::Victim(const std::filesystem::path& phone, const Kept& kept, Moment death) {
   std::array<int, 2> ends{};
   if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()) < 0) fail("socketpair");
   ours_ = desktop::Descriptor(ends[0]);
@@ -60,11 +78,13 @@ Victim::Victim(const std::filesystem::path& phone, const Kept& kept) {
   if (process_ < 0) fail("fork");
   if (process_ > 0) return;
   close(ours_.release());
+  if (death) dieAfter(death->count());
   run(its.number(), phone, kept);
 }
 
-void Victim::order(const Operation& operation) const {
-  if (send(ours_.number(), &operation, sizeof operation, MSG_NOSIGNAL) < 0) fail("send");
+void Victim::order(const Operation& operation, Moment death) const {
+  const Order order{operation, death ? death->count() : 0};
+  if (send(ours_.number(), &order, sizeof order, MSG_NOSIGNAL) < 0) fail("send");
 }
 
 std::optional<std::string> Victim::line() const {
