@@ -43,6 +43,12 @@ std::optional<std::string_view> single(const Request& request, boost::beast::str
   return view(request.find(name)->value());
 }
 
+/// Whether the request says that something follows its header, however it is to be read.
+bool hasBody(const Request& request) {
+  return request.count("Transfer-Encoding") > 0 ||
+         (request.count("Content-Length") > 0 && single(request, "Content-Length") != "0");
+}
+
 }  // namespace
 
 Access::Access(std::uint16_t port)
@@ -66,8 +72,10 @@ std::string Access::cookie() const {
 
 std::optional<std::string_view> Access::refusal(const Request& request) const {
   if (single(request, "Host") != host_) return "There is no such host here.";
-  const bool isHandshake = request.count("Upgrade") > 0;
-  if (isHandshake || request.count("Origin") > 0) {
+  if (hasBody(request)) return "Nothing is taken here.";
+  const bool onlyReads =
+      request.method() == http::verb::get || request.method() == http::verb::head;
+  if (!onlyReads || request.count("Upgrade") > 0 || request.count("Origin") > 0) {
     if (single(request, "Origin") != origin_) return "Other sites have no access.";
   }
   if (request.count("Sec-Fetch-Site") > 0) {

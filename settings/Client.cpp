@@ -16,9 +16,9 @@ namespace {
 /// The longest message that a page may send, in bytes.
 constexpr std::size_t maximumMessage = 64 * 1024;
 
-/// How many messages wait at most for a page that does not read; then it is dropped, and gets the
-/// whole screen when it comes back.
-constexpr std::size_t maximumQueue = 256;
+/// How many bytes wait at most for a page that does not read; then it is dropped, and gets the
+/// whole screen when it comes back. One message may be longer.
+constexpr std::size_t maximumQueue = 256 * 1024;
 
 }  // namespace
 
@@ -47,11 +47,13 @@ void Client::answer(const Tree& tree) {
 void Client::refuse(const std::string& reason) { send(refusedMessage(reason)); }
 
 void Client::send(const nlohmann::json& message) {
-  if (outgoing_.size() == maximumQueue) {
+  std::string text = message.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+  if (!outgoing_.empty() && waiting_ + text.size() > maximumQueue) {
     beast::get_lowest_layer(socket_).close();
     return;
   }
-  outgoing_.push_back(message.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace));
+  waiting_ += text.size();
+  outgoing_.push_back(std::move(text));
   // What is sent before the handshake is done waits for it.
   if (outgoing_.size() == 1 && socket_.is_open()) startWriting();
 }
@@ -64,6 +66,7 @@ asio::awaitable<void> Client::write(std::shared_ptr<Client> self) {
   try {
     for (auto& outgoing = self->outgoing_; !outgoing.empty(); outgoing.pop_front()) {
       co_await self->socket_.async_write(asio::buffer(outgoing.front()), use_awaitable);
+      self->waiting_ -= outgoing.front().size();
     }
   } catch (const boost::system::system_error&) {
     // The page has gone; reading ends as well, and with it the client.

@@ -45,6 +45,8 @@ class Client : public std::enable_shared_from_this<Client> {
   boost::beast::websocket::stream<boost::beast::tcp_stream> socket_;
   Tree shown_;
   std::deque<std::string> outgoing_;
+  /// The bytes in it.
+  std::size_t waiting_ = 0;
 };
 
 }  // namespace settings

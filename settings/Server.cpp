@@ -13,6 +13,7 @@
 #include <boost/beast/websocket/rfc6455.hpp>
 #include <chrono>
 #include <iostream>
+#include <list>
 #include <stdexcept>
 #include <string>
 
@@ -34,18 +35,6 @@ constexpr unsigned maximumConnections = 64;
 constexpr std::size_t maximumHeader = 8 * 1024;
 constexpr auto headerTime = std::chrono::seconds(5);
 
-/// Counts itself for as long as it lives.
-class Counted {
- public:
-  explicit Counted(std::shared_ptr<unsigned> count) : count_(std::move(count)) { ++*count_; }
-  Counted(const Counted&) = delete;
-  Counted& operator=(const Counted&) = delete;
-  ~Counted() { --*count_; }
-
- private:
-  std::shared_ptr<unsigned> count_;
-};
-
 tcp::acceptor listenOn(asio::io_context& loop, std::uint16_t port) {
   try {
     return {loop, tcp::endpoint(asio::ip::address_v4::loopback(), port)};
@@ -61,10 +50,51 @@ bool isHandshake(const Request& request) {
 
 }  // namespace
 
+/// The connections that are open.
+struct Server::Connections {
+  unsigned count = 0;
+  /// Those that have not been let in yet, the oldest first.
+  std::list<beast::tcp_stream*> strangers;
+
+  /// Whether there is room for one more. The stranger that has waited longest gives way: whoever
+  /// opens connections and says nothing does not shut out the user.
+  bool makeRoom() {
+    if (count < maximumConnections) return true;
+    if (strangers.empty()) return false;
+    strangers.front()->close();
+    strangers.pop_front();
+    return true;
+  }
+};
+
+/// A connection's place among the others for as long as it lives.
+class Server::Place {
+ public:
+  Place(std::shared_ptr<Connections> all, beast::tcp_stream& stream)
+      : all_(std::move(all)), stream_(stream) {
+    ++all_->count;
+    all_->strangers.push_back(&stream_);
+  }
+  Place(const Place&) = delete;
+  Place& operator=(const Place&) = delete;
+  ~Place() {
+    letIn();
+    --all_->count;
+  }
+
+  /// It is a stranger no more.
+  void letIn() { all_->strangers.remove(&stream_); }
+
+ private:
+  std::shared_ptr<Connections> all_;
+  beast::tcp_stream& stream_;
+};
+
 Server::Server(asio::io_context& loop, std::uint16_t port, Application application)
     : application_(std::move(application)),
       acceptor_(listenOn(loop, port)),
-      access_(acceptor_.local_endpoint().port()) {
+      access_(acceptor_.local_endpoint().port()),
+      connections_(std::make_shared<Connections>()) {
   asio::co_spawn(loop, accept(), asio::detached);
 }
 
@@ -81,14 +111,14 @@ asio::awaitable<void> Server::accept() {
       co_await pause.async_wait(use_awaitable);
       continue;
     }
-    if (*connections_ == maximumConnections) continue;
+    if (!connections_->makeRoom()) continue;
     asio::co_spawn(acceptor_.get_executor(), serve(std::move(socket)), asio::detached);
   }
 }
 
 asio::awaitable<void> Server::serve(tcp::socket socket) {
-  const Counted counted(connections_);
   beast::tcp_stream stream(std::move(socket));
+  Place place(connections_, stream);
   beast::flat_buffer buffer;
   try {
     for (bool open = true; open;) {
@@ -98,7 +128,9 @@ asio::awaitable<void> Server::serve(tcp::socket socket) {
       co_await http::async_read(stream, buffer, parser, use_awaitable);
       const Request request = parser.release();
 
-      if (isHandshake(request) && !access_.refusal(request)) {
+      const bool isWelcome = !access_.refusal(request);
+      if (isWelcome) place.letIn();
+      if (isWelcome && isHandshake(request)) {
         stream.expires_never();
         const auto client = std::make_shared<Client>(std::move(stream));
         co_await converse(client, request);

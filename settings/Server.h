@@ -49,12 +49,15 @@ class Server {
   boost::asio::awaitable<void> converse(std::shared_ptr<Client> client, Request handshake);
   void touched(Client& client, std::string_view message);
 
+  struct Connections;
+  class Place;
+
   Application application_;
   boost::asio::ip::tcp::acceptor acceptor_;
   Access access_;
   std::set<std::shared_ptr<Client>> clients_;
-  /// How many connections are open; shared with them, since they may outlive the server.
-  std::shared_ptr<unsigned> connections_ = std::make_shared<unsigned>(0);
+  /// Shared with the connections, since they may outlive the server.
+  std::shared_ptr<Connections> connections_;
 };
 
 }  // namespace settings

@@ -53,6 +53,28 @@ TEST_F(AccessTest, AllowsTheCookie) {
   EXPECT_TRUE(allows(get("/", {{"Host", host}, {"Cookie", cookie}})));
 }
 
+TEST_F(AccessTest, AsksEverythingButReadingForItsOrigin) {
+  using boost::beast::http::verb;
+  for (const verb method : {verb::post, verb::put, verb::delete_, verb::options, verb::unknown}) {
+    EXPECT_FALSE(allows(request(method, "/", {{"Host", host}, {"Cookie", cookie}})));
+    EXPECT_FALSE(
+        allows(request(method, "/", {{"Host", host}, {"Origin", "null"}, {"Cookie", cookie}})));
+    EXPECT_TRUE(
+        allows(request(method, "/", {{"Host", host}, {"Origin", origin}, {"Cookie", cookie}})));
+  }
+}
+
+TEST_F(AccessTest, RefusesWhatHasABody) {
+  for (const auto& field : std::initializer_list<std::pair<const char*, std::string>>{
+           {"Content-Length", "1"},
+           {"Content-Length", "x"},
+           {"Transfer-Encoding", "chunked"},
+           {"Transfer-Encoding", "identity"}}) {
+    EXPECT_FALSE(allows(get("/", {{"Host", host}, {"Cookie", cookie}, field}))) << field.second;
+  }
+  EXPECT_TRUE(allows(get("/", {{"Host", host}, {"Cookie", cookie}, {"Content-Length", "0"}})));
+}
+
 TEST_F(AccessTest, FindsTheCookieAmongOthers) {
   for (const std::string& field : {"a=b; " + cookie, cookie + "; a=b", "a=b;" + cookie,
                                    "; ;=; " + cookie, "quillmere-8080=wrong; " + cookie}) {

@@ -16,7 +16,8 @@ using http::verb;
 class SiteTest : public testing::Test {
  protected:
   settings::Response ask(verb method, const std::string& target) const {
-    return answer(request(method, target, {{"Host", host}, {"Cookie", cookie}}));
+    return answer(
+        request(method, target, {{"Host", host}, {"Origin", origin}, {"Cookie", cookie}}));
   }
   settings::Response ask(const std::string& target) const { return ask(verb::get, target); }
   settings::Response answer(const settings::Request& asked) const {
@@ -109,7 +110,8 @@ TEST_F(SiteTest, TurnsAnInvitationIntoACookie) {
 
 TEST_F(SiteTest, GivesTheCookieToInvitationsOnly) {
   EXPECT_EQ(ask("/").count(http::field::set_cookie), 0U);
-  const auto posted = answer(request(verb::post, invitationTarget(access), {{"Host", host}}));
+  const auto posted =
+      answer(request(verb::post, invitationTarget(access), {{"Host", host}, {"Origin", origin}}));
   EXPECT_EQ(posted.result(), status::method_not_allowed);
   EXPECT_EQ(posted.count(http::field::set_cookie), 0U);
 }
