@@ -9,14 +9,15 @@ namespace {
 
 Phone* phoneThatIsOn = nullptr;
 
-void reportOnStandardError(const std::string& line) {
-  std::cerr << "quillmere-settings: " << line << std::endl;
-}
-
 }  // namespace
 
 Phone::Phone(const std::filesystem::path& host)
-    : report(&reportOnStandardError), folder(host), preferences(*this) {
+    : report([this](const std::string& line) {
+        std::cerr << "quillmere-settings: " << line << std::endl;
+        banner = line;
+      }),
+      folder(host),
+      preferences(*this) {
   assert(!phoneThatIsOn);
   phoneThatIsOn = this;
 }

@@ -34,9 +34,13 @@ class Phone {
   /// The screen's size, in points.
   static constexpr platform::CGSize screenSize{390, 844};
 
-  /// Tells the person at the desktop of something that the bundle keeps silent about. Goes to
-  /// standard error unless replaced.
+  /// Tells the person at the desktop of something that the bundle keeps silent about, such as a
+  /// change that was not stored. Goes to standard error, and to the page as its banner, unless
+  /// replaced.
   std::function<void(const std::string& line)> report;
+
+  /// What was reported last and has not been put away; empty when there is nothing.
+  std::string banner;
 
   /// Classes whose library is not installed on this phone.
   std::set<std::string> missingClasses;

@@ -189,9 +189,9 @@ bool PhoneFolder::remove(std::string_view path) const {
 }
 
 bool PhoneFolder::exists(std::string_view path) const {
-  const int number = openInside(root_, path, O_PATH);
-  if (number >= 0) ::close(number);
-  return number >= 0;
+  const Descriptor place(openInside(root_, path, O_PATH));
+  if (place.number() < 0 && errno != ENOENT && errno != ENOTDIR) fail(path);
+  return place.number() >= 0;
 }
 
 bool PhoneFolder::isFile(std::string_view path) const {

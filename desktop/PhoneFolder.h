@@ -35,7 +35,7 @@ class PhoneFolder {
   /// Deletes a file or a link, durably; false when there is none. A folder throws.
   bool remove(std::string_view path) const;
 
-  /// Whether something stands there; false also when that cannot be found out.
+  /// Whether something stands there. Throws when that cannot be found out.
   bool exists(std::string_view path) const;
 
   /// Whether a regular file stands there; false also when that cannot be found out.

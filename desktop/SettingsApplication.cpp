@@ -38,6 +38,7 @@ std::string bundleLabelled(const std::string& label) {
 }  // namespace
 
 SettingsApplication::SettingsApplication(const std::string& label) {
+  Phone::current().preferences.forgetAnswers();
   std::string& bundle = Phone::current().bundle;
   bundle = "/Library/PreferenceBundles/" + bundleLabelled(label) + ".bundle";
   const std::string name = textAt(dictionaryAt(bundle + "/Info.plist"), "NSPrincipalClass");

@@ -15,6 +15,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
+/// What a phone has from the beginning.
 constexpr const char* folders[] = {
     "/Library/PreferenceBundles/Quillmere.bundle",
     "/Library/PreferenceLoader/Preferences",
@@ -22,6 +23,20 @@ constexpr const char* folders[] = {
     "/System/Library/CoreServices",
     "/var/mobile/Library/Preferences",
 };
+
+/// What it has once a mail was written.
+constexpr const char* mailFolders[] = {
+    "/var/mobile/Library/Mail/Drafts",
+    "/var/mobile/Library/Mail/Outbox",
+};
+
+/// Deletes what interrupted writes left in all folders that anything is written into.
+void sweep(const desktop::PhoneFolder& folder) {
+  for (const char* path : folders) folder.sweep(path);
+  for (const char* path : mailFolders) {
+    if (folder.exists(path)) folder.sweep(path);
+  }
+}
 
 void install(const desktop::PhoneFolder& folder, std::span<const Asset> files) {
   for (const Asset& file : files) {
@@ -72,6 +87,7 @@ bool holdsPhone(const fs::path& folder) {
 void setUpPhone(const desktop::PhoneFolder& folder) {
   const bool isNew = !isPhone(folder);
   for (const char* path : folders) folder.makeFolders(path);
+  sweep(folder);
   folder.makeLink("/User", "var/mobile");
   // A copy that followed links has two folders instead: pages and service would part ways.
   if (!folder.areSame("/User", "/var/mobile")) {

@@ -110,6 +110,13 @@ void addContent(Tree& tree, json& node, const Page& page, const Viewport& viewpo
   }
 }
 
+/// Adds the banner that says so; its id, or null when nothing is to be said.
+json addBanner(Tree& tree, const std::string& text) {
+  if (text.empty()) return nullptr;
+  tree[std::string(bannerId)] = {{"kind", "banner"}, {"text", text}};
+  return bannerId;
+}
+
 }  // namespace
 
 Tree Screen::tree(const Viewport& viewport, Pictures& pictures) const {
@@ -129,6 +136,7 @@ Tree Screen::tree(const Viewport& viewport, Pictures& pictures) const {
     below = &page;
   }
   window["overlay"] = addOverlay(tree, board_);
+  window["banner"] = addBanner(tree, desktop::Phone::current().banner);
   tree["window"] = std::move(window);
   return tree;
 }

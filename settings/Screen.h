@@ -14,6 +14,9 @@
 
 namespace settings {
 
+/// What the tree calls the banner, which a tap puts away.
+inline constexpr std::string_view bannerId = "banner";
+
 /// The screen of the stand-in phone, as the browser draws it.
 class Screen {
  public:

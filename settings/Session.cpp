@@ -1,16 +1,14 @@
 #include "settings/Session.h"
 
+#include <optional>
 #include <system_error>
+#include <utility>
 
 #include "settings/PhoneSetup.h"
 
 namespace settings {
 
 namespace {
-
-/// A change takes milliseconds; a program that is stopped in the middle of one must not stop
-/// others.
-constexpr std::chrono::milliseconds patience{900};
 
 std::filesystem::path phoneFolder(const Options& options) {
   if (!options.root.empty()) {
@@ -35,22 +33,33 @@ desktop::Identity identityOf(const desktop::PhoneFolder& folder, const Options& 
   return identity;
 }
 
+bool onlyReads(const Options& options) {
+  return options.subCommand && options.subCommand->effect == cli::SubCommand::Effect::Reads;
+}
+
 }  // namespace
 
 Session::Session(const Options& options, boost::asio::io_context& loop)
     : phone(phoneFolder(options)), commands_(loop) {
-  const desktop::Descriptor held = alone();
-  setUpPhone(phone.folder);
+  const bool reads = onlyReads(options);
+  std::optional<desktop::Descriptor> held;
+  try {
+    held.emplace(alone(reads ? patience.zero() : patience));
+    setUpPhone(phone.folder);
+    phone.preferences.settleAll();
+  } catch (const Busy&) {
+    if (!reads) throw;
+  }
+  phone.preferences.merges = !reads;
   phone.identity = identityOf(phone.folder, options);
   phone.screenScale = options.screenScale;
-  phone.preferences.start();
   runCommands(options);
   phone.springBoard.open("prefs:root=Quillmere");
 }
 
-desktop::Descriptor Session::alone() const {
+desktop::Descriptor Session::alone(std::chrono::milliseconds wait) const {
   try {
-    return phone.folder.hold(patience);
+    return phone.folder.hold(wait);
   } catch (const std::system_error& failure) {
     if (failure.code() == std::errc::operation_would_block) throw Busy();
     // Where folders cannot be locked at all, changes are made all the same.
@@ -63,8 +72,10 @@ desktop::Descriptor Session::alone() const {
 void Session::runQueue() {
   try {
     const desktop::Descriptor held = alone();
+    isWaiting_ = false;
     phone.mainQueue.run();
   } catch (const Busy& reason) {
+    if (std::exchange(isWaiting_, true)) return;
     phone.report(std::string(reason.what()) + ": what was put off waits for it");
   }
 }

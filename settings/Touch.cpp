@@ -89,6 +89,7 @@ bool tapTable(desktop::TableBody* table, const std::string& id) {
 
 void tap(const Hands& hands, const json& message) {
   const auto id = field<std::string>(message, "id");
+  if (id == bannerId) return desktop::Phone::current().banner.clear();
   NavigationController* navigation = hands.board.navigation();
   require(navigation, "the phone is restarting");
   if (tapOverlay(*navigation, id)) return;
@@ -167,14 +168,30 @@ void drag(const Hands& hands, const json& message) {
 struct Kind {
   std::string_view name;
   void (*perform)(const Hands&, const json&);
+  enum { Acts, Looks } effect = Acts;
 };
 
 constexpr Kind kinds[] = {
-    {"tap", &tap},   {"toggle", &toggle}, {"slide", &slide},   {"type", &type}, {"select", &select},
-    {"pick", &pick}, {"scroll", &scroll}, {"window", &window}, {"drag", &drag},
+    {"tap", &tap},
+    {"toggle", &toggle},
+    {"slide", &slide},
+    {"type", &type},
+    {"select", &select},
+    {"pick", &pick},
+    {"drag", &drag},
+    {"scroll", &scroll, Kind::Looks},
+    {"window", &window, Kind::Looks},
 };
 
 }  // namespace
+
+bool leaveOutdatedPage(desktop::SpringBoard& board) {
+  desktop::PreferencesService& preferences = desktop::Phone::current().preferences;
+  if (!board.navigation() || !preferences.answersAreOutdated()) return false;
+  preferences.forgetAnswers();
+  board.navigation()->pop();
+  return true;
+}
 
 void touch(desktop::SpringBoard& board, Viewport& viewport, std::string_view text) {
   const json message = json::parse(text, nullptr, false);
@@ -183,6 +200,8 @@ void touch(desktop::SpringBoard& board, Viewport& viewport, std::string_view tex
   const auto* kind = std::ranges::find(kinds, name, &Kind::name);
   require(kind != std::end(kinds), "there is no touch \"" + name + '"');
   try {
+    require(kind->effect == Kind::Looks || !leaveOutdatedPage(board),
+            "what this page showed has been changed elsewhere: open it again");
     kind->perform({board, viewport}, message);
   } catch (const desktop::Exception& raised) {
     // On a phone the Settings app would end here; at a desk, hearing of it is worth more.

@@ -1,5 +1,6 @@
 #include "desktop/Cephei/PreferencesService.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "desktop/Cephei/PendingChanges.h"
@@ -25,6 +26,11 @@ bool isStoredAs(const plist::Value& present, const plist::Value& value, plist::F
     return present == plist::Value::real(*value.real());
   }
   return present == value;
+}
+
+/// Whether its readers change a part of it and store it as a whole.
+bool isContainer(const std::optional<plist::Value>& value) {
+  return value && (value->array() || value->dictionary());
 }
 
 /// None when there is something in the place of the kept changes that is none.
@@ -87,8 +93,21 @@ void PreferencesService::keep(const std::string& domain, Domain& state, const st
 }
 
 std::optional<plist::Value> PreferencesService::value(const std::string& domain,
-                                                      std::string_view key) const {
+                                                      const std::string& key) {
   settle(domain);
+  return answers_[{domain, key}] = valueOnDisk(domain, key);
+}
+
+bool PreferencesService::answersAreOutdated() const {
+  return std::ranges::any_of(answers_, [&](const auto& each) {
+    const auto& [name, answer] = each;
+    const std::optional<plist::Value> now = valueOnDisk(name.first, name.second);
+    return (isContainer(answer) || isContainer(now)) && now != answer;
+  });
+}
+
+std::optional<plist::Value> PreferencesService::valueOnDisk(const std::string& domain,
+                                                            std::string_view key) const {
   Domain state = load(domain);
   if (state.pending) state.pending->applyTo(state.file.dictionary);
   const plist::Value* found = state.file.dictionary.find(key);
@@ -96,24 +115,30 @@ std::optional<plist::Value> PreferencesService::value(const std::string& domain,
 }
 
 void PreferencesService::set(const std::string& domain, const std::string& key,
-                             const std::optional<plist::Value>& value) const {
+                             const std::optional<plist::Value>& value) {
   try {
-    Domain state = load(domain);
-    if (state.unreadable) {
-      return keep(domain, state, key, [&](PendingChanges& changes) { changes.add(key, value); });
-    }
-    merge(domain, state);
-    const plist::Value* present = state.file.dictionary.find(key);
-    if (value ? present && isStoredAs(*present, *value, state.file.form) : !present) return;
-    if (value) {
-      state.file.dictionary.set(key, *value);
-    } else {
-      state.file.dictionary.erase(key);
-    }
-    writePropertyList(phone_.folder, pathOf(domain), state.file);
+    store(domain, key, value);
+    answers_[{domain, key}] = value;
   } catch (const std::exception& failure) {
     phone_.report(key + " was not stored in " + pathOf(domain) + ": " + failure.what());
   }
+}
+
+void PreferencesService::store(const std::string& domain, const std::string& key,
+                               const std::optional<plist::Value>& value) const {
+  Domain state = load(domain);
+  if (state.unreadable) {
+    return keep(domain, state, key, [&](PendingChanges& changes) { changes.add(key, value); });
+  }
+  merge(domain, state);
+  const plist::Value* present = state.file.dictionary.find(key);
+  if (value ? present && isStoredAs(*present, *value, state.file.form) : !present) return;
+  if (value) {
+    state.file.dictionary.set(key, *value);
+  } else {
+    state.file.dictionary.erase(key);
+  }
+  writePropertyList(phone_.folder, pathOf(domain), state.file);
 }
 
 void PreferencesService::clear(const std::string& domain) const {
@@ -133,6 +158,7 @@ void PreferencesService::clear(const std::string& domain) const {
 }
 
 void PreferencesService::settle(const std::string& domain) const {
+  if (!merges) return;
   try {
     Domain state = load(domain);
     merge(domain, state);
@@ -142,17 +168,12 @@ void PreferencesService::settle(const std::string& domain) const {
 }
 
 void PreferencesService::settleAll() const {
-  if (!phone_.folder.exists(folder)) return;
+  if (!merges || !phone_.folder.exists(folder)) return;
   for (const std::string& name : phone_.folder.list(folder)) {
     if (name.ends_with(pendingEnding)) {
       settle(name.substr(0, name.size() - pendingEnding.size()));
     }
   }
-}
-
-void PreferencesService::start() const {
-  phone_.folder.sweep(folder);
-  settleAll();
 }
 
 }  // namespace desktop

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "plist/Value.h"
 
@@ -22,16 +24,23 @@ class PreferencesService {
  public:
   explicit PreferencesService(Phone& phone) : phone_(phone) {}
 
-  /// Clears up after an earlier run that was cut short, and settles all domains.
-  void start() const;
-
   /// The domain's value for the key; none when it has none.
-  std::optional<plist::Value> value(const std::string& domain, std::string_view key) const;
+  std::optional<plist::Value> value(const std::string& domain, const std::string& key);
+
+  /// Whether a list or dictionary that was asked for since `forgetAnswers` is another one by now,
+  /// by somebody else's hand or because its file could not be read then: to store it again,
+  /// changed, would undo that.
+  bool answersAreOutdated() const;
+  void forgetAnswers() { answers_.clear(); }
+
+  /// Whether kept changes are merged when a value is asked for. To be switched off by what only
+  /// reads while another program may be changing the file.
+  bool merges = true;
 
   /// Stores the value, or removes the key for none. The file is made when there is none yet, and
   /// is not written when it holds the value already. A failure is reported to the desktop only.
   void set(const std::string& domain, const std::string& key,
-           const std::optional<plist::Value>& value) const;
+           const std::optional<plist::Value>& value);
 
   /// Removes every key. The file stays, without keys; none is made when there is none yet. A
   /// failure is reported to the desktop only.
@@ -47,12 +56,17 @@ class PreferencesService {
   struct Domain;
 
   Domain load(const std::string& domain) const;
+  std::optional<plist::Value> valueOnDisk(const std::string& domain, std::string_view key) const;
+  void store(const std::string& domain, const std::string& key,
+             const std::optional<plist::Value>& value) const;
   void merge(const std::string& domain, Domain& state) const;
   /// Keeps what `change` does to the changes beside the file; `what` names it to the desktop.
   void keep(const std::string& domain, Domain& state, const std::string& what,
             const std::function<void(PendingChanges&)>& change) const;
 
   Phone& phone_;
+  /// What was answered or stored last, by domain and key.
+  std::map<std::pair<std::string, std::string>, std::optional<plist::Value>> answers_;
 };
 
 }  // namespace desktop

@@ -49,6 +49,16 @@ bool remove(const std::string& path) {
   }
 }
 
+/// What cannot be looked at counts as standing there: it is not to be taken for absent, and made
+/// anew.
+bool exists(const std::string& path) {
+  try {
+    return Phone::current().folder.exists(path);
+  } catch (const std::system_error&) {
+    return true;
+  }
+}
+
 }  // namespace
 
 NSFileManager NSFileManager::defaultManager() {
@@ -64,9 +74,8 @@ NSArray NSFileManager::contentsOfDirectoryAtPath(const NSString& path) const {
 }
 
 bool NSFileManager::fileExistsAtPath(const NSString& path) const {
-  return send<FileManagerBody>(*this, "fileExistsAtPath:", {path}, [&](FileManagerBody&) {
-    return Phone::current().folder.exists(path.UTF8String());
-  });
+  return send<FileManagerBody>(*this, "fileExistsAtPath:", {path},
+                               [&](FileManagerBody&) { return exists(path.UTF8String()); });
 }
 
 bool NSFileManager::removeItemAtPath(const NSString& path) const {

@@ -37,6 +37,7 @@ void NavigationController::pop() {
   Page& below = pages_[pages_.size() - 2];
   below.sections = draw(*below.controller);
   pages_.pop_back();
+  Phone::current().preferences.forgetAnswers();  // Whoever asked for them is gone.
   top().controller->viewDidAppear(Animated::Yes);
 }
 

@@ -5,6 +5,7 @@
 
 #include "desktop/Preferences/SpecifierBody.h"
 #include "settings/Overlay.h"
+#include "settings/Touch.h"
 #include "settings/cli/Words.h"
 
 namespace settings::cli {
@@ -63,6 +64,9 @@ void Hands::answerAlert(bool confirmed) {
 void Hands::change(const std::function<void()>& touch) {
   complained_ = false;
   if (!held_) held_.emplace(session_.alone());
+  if (leaveOutdatedPage(board())) {
+    throw std::runtime_error("what is stored could not be read at first: nothing was changed");
+  }
   touch();
   held_.reset();    // The user's commands may take their time.
   loop_.restart();  // The change before this one left the loop out of work, and so stopped.

@@ -21,9 +21,7 @@ class ClearedPreferences : public PhoneTest {
   void set(const char* key, const std::optional<Value>& value) {
     phone->preferences.set(domain, key, value);
   }
-  std::optional<Value> value(const char* key) const {
-    return phone->preferences.value(domain, key);
-  }
+  std::optional<Value> value(const char* key) { return phone->preferences.value(domain, key); }
 };
 
 TEST_F(ClearedPreferences, HaveAnEmptyFileOfTheSameForm) {

@@ -17,9 +17,7 @@ class PendingFile : public PhoneTest {
   void set(const char* key, const std::optional<Value>& value) {
     phone->preferences.set(domain, key, value);
   }
-  std::optional<Value> value(const char* key) const {
-    return phone->preferences.value(domain, key);
-  }
+  std::optional<Value> value(const char* key) { return phone->preferences.value(domain, key); }
 };
 
 TEST_F(PendingFile, IsMergedWhenAValueIsAskedFor) {
@@ -92,7 +90,7 @@ TEST_F(PendingFile, OfEveryDomainIsMergedAtTheStart) {
     fs::remove(plist);
   }
   restart();
-  phone->preferences.start();
+  phone->preferences.settleAll();
   EXPECT_EQ(namesIn(file.parent_path()),
             (std::vector<std::string>{"com.example.addon.plist", "com.example.other.plist"}));
 }
@@ -102,7 +100,7 @@ TEST_F(PendingFile, StaysAtTheStartBesideABadFile) {
   set("key", Value(true));
   const std::string before = portrait(pendingFile);
   restart();
-  phone->preferences.start();
+  phone->preferences.settleAll();
   EXPECT_EQ(portrait(pendingFile), before);
 }
 

@@ -15,9 +15,7 @@ class PreferencesServiceTest : public PhoneTest {
   void set(const char* key, const std::optional<Value>& value) {
     phone->preferences.set(domain, key, value);
   }
-  std::optional<Value> value(const char* key) const {
-    return phone->preferences.value(domain, key);
-  }
+  std::optional<Value> value(const char* key) { return phone->preferences.value(domain, key); }
 };
 
 TEST_F(PreferencesServiceTest, AMissingDomainHasNoValues) {

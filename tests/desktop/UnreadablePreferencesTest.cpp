@@ -21,9 +21,7 @@ class UnreadablePreferences : public PhoneTest, public testing::WithParamInterfa
   void set(const char* key, const std::optional<Value>& value) {
     phone->preferences.set(domain, key, value);
   }
-  std::optional<Value> value(const char* key) const {
-    return phone->preferences.value(domain, key);
-  }
+  std::optional<Value> value(const char* key) { return phone->preferences.value(domain, key); }
 
   std::string before;
 };

@@ -20,7 +20,8 @@ class ScreenTest : public PhoneScreenTest {
 
 TEST_F(ScreenTest, ShowsTheQuickActionsPageExactly) {
   const settings::Tree expected = parsed(R"({
-    "window": {"kind": "window", "children": ["page1", "page2"], "overlay": null},
+    "window": {"kind": "window", "children": ["page1", "page2"], "overlay": null,
+               "banner": null},
     "page1": {"kind": "page", "title": "Quillmere"},
     "page2": {"kind": "page", "title": "Quick Actions", "back": "page2.back", "titleView": null,
       "trailing": null, "header": null, "covers": [], "scrolls": false,

@@ -1,5 +1,6 @@
 import * as alertNode from './alert.js';
 import * as back from './back.js';
+import * as banner from './banner.js';
 import * as barSwitch from './barSwitch.js';
 import * as blur from './blur.js';
 import * as button from './button.js';
@@ -26,6 +27,7 @@ import * as windowNode from './window.js';
 export const kinds = {
   alert: alertNode,
   back,
+  banner,
   barSwitch,
   blur,
   button,

@@ -2,6 +2,9 @@ import { element } from '../element.js';
 import { lay, lift } from '../layers.js';
 import { slide } from '../transition.js';
 
+// There from the beginning, so that assistive technology tells what comes into it.
+const banners = document.getElementById('banners');
+
 export function create() {
   return { element: element('main', { class: 'window' }), ids: [], animations: [], overlay: null };
 }
@@ -11,6 +14,7 @@ export function update(view, node, context) {
   // Nobody sees a page move below something that hides it.
   show(view, node, context, Boolean(overlay?.hides || view.overlay?.hides));
   cover(view, overlay);
+  context.place(banners, node.banner ? [node.banner] : []);
 }
 
 /** While there is no page, what was there last stays below what hides it. */
