@@ -19,14 +19,16 @@ struct Document {
   Form form;
 };
 
-/// Bounds that keep a hostile file from costing more than a large honest one.
+/// Bounds that keep a hostile file from costing more than a large honest one: with these, what is
+/// read, changed and written takes less than 64 MiB of memory.
 struct Limits {
   /// Offsets of 32 bits reach all of it, even after UTF-16 has become longer UTF-8.
   static constexpr std::uint32_t kMostBytes = 1U << 30;
 
-  std::uint32_t bytes = 16 * 1024 * 1024;  ///< Of a file; kMostBytes at most.
-  std::uint32_t depth = 512;               ///< Containers inside one another.
-  std::uint32_t nodes = 400'000;  ///< Values and keys, a shared one counted wherever it shows.
+  std::uint32_t bytes = 8 * 1024 * 1024;  ///< Of a file; kMostBytes at most.
+  std::uint32_t depth = 512;              ///< Containers inside one another.
+  std::uint32_t nodes = 250'000;  ///< Values and keys, a shared one counted wherever it shows.
+  std::uint64_t text = 16 * 1024 * 1024;  ///< Bytes of text and data, counted likewise, as UTF-8.
 };
 
 /// The bytes are not a property list, or go beyond the limits.

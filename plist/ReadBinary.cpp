@@ -27,6 +27,7 @@ constexpr std::size_t kConvertedBlock = std::size_t{64} * 1024;
 /// An object that several places may share: read once, counted at each of them.
 struct Known {
   Value value;
+  std::uint64_t text = 0;    ///< Bytes of text and data in it.
   std::uint32_t nodes = 0;   ///< Below it.
   std::uint32_t height = 0;  ///< Containers inside one another, itself counted.
 };
@@ -37,6 +38,7 @@ struct Open {
   std::uint64_t number;
   std::uint64_t next = 0;         ///< Element to read.
   std::uint32_t nodesBefore = 0;  ///< Counted before its elements were.
+  std::uint64_t textBefore = 0;
   std::uint32_t height = 1;
   Value value;
 };
@@ -73,6 +75,12 @@ class BinaryReader {
   void count(std::uint64_t nodes) {
     if (nodes > limits_.nodes - nodes_) throw Unreadable("too many values");
     nodes_ += static_cast<std::uint32_t>(nodes);
+  }
+
+  /// What is shared is small in the file and in memory, but not for those who look at each value.
+  void countText(std::uint64_t bytes) {
+    if (bytes > limits_.text - text_) throw Unreadable("too much text");
+    text_ += bytes;
   }
 
   /// Objects that lie over one another could otherwise add up to far more than the file.
@@ -117,6 +125,7 @@ class BinaryReader {
   std::deque<Known> known_;
   std::vector<Open> open_;
   std::uint32_t nodes_ = 0;
+  std::uint64_t text_ = 0;
   std::size_t bytes_ = 0;  // of the objects so far, but for numbers
 };
 
@@ -138,6 +147,7 @@ bool BinaryReader::read(std::uint64_t number, Value& value) {
       return true;
     case Marker::Data:
       countBytes(object, number);
+      countText(object.bytes.size());
       value = slice(Kind::Data, object);
       return true;
     default:
@@ -152,6 +162,7 @@ const Value& BinaryReader::readShared(std::uint64_t number) {
   }
   const Known& known = known_[states_[number] - kKnown];
   count(known.nodes);
+  countText(known.text);
   checkDepth(known.height, file_.object(number).offset);
   if (!open_.empty()) open_.back().height = std::max(open_.back().height, known.height + 1);
   return known.value;
@@ -161,9 +172,11 @@ Value BinaryReader::readText(const Object& object, std::uint64_t number) {
   countBytes(object, number);
   const bool ascii = object.marker == Marker::Ascii;
   if (ascii && !isAscii(object.bytes)) throw Unreadable("text beyond ASCII", object.offset);
-  if (ascii && object.bytes.size() <= kShortText) return slice(Kind::String, object);
-  remember(number, {ascii ? slice(Kind::String, object) : convert(object.bytes)});
-  return known_.back().value;
+  Value text = ascii ? slice(Kind::String, object) : convert(object.bytes);
+  const std::size_t size = text.string()->size();
+  countText(size);
+  if (!ascii || size > kShortText) remember(number, {text, size});
+  return text;
 }
 
 Value BinaryReader::convert(std::string_view units) {
@@ -183,8 +196,9 @@ Value BinaryReader::convert(std::string_view units) {
 
 Value BinaryReader::readKey(std::uint64_t number) {
   if (states_[number] >= kKnown) {
-    const Value& known = known_[states_[number] - kKnown].value;
-    if (known.string()) return known;
+    if (const Value& known = known_[states_[number] - kKnown].value; known.string()) {
+      return readShared(number);
+    }
   } else if (states_[number] < kOpen) {
     const Object object = file_.object(number);
     if (object.marker == Marker::Ascii || object.marker == Marker::Utf16) {
@@ -206,7 +220,7 @@ void BinaryReader::open(const Object& object, std::uint64_t number) {
   } else {
     value.array()->reserve(object.count);
   }
-  open_.push_back({object, number, 0, before, 1, std::move(value)});
+  open_.push_back({object, number, 0, before, text_, 1, std::move(value)});
   states_[number] = kOpen;
 }
 
@@ -238,7 +252,8 @@ Value BinaryReader::close() {
   Open done = std::move(open_.back());
   open_.pop_back();
   if (!open_.empty()) open_.back().height = std::max(open_.back().height, done.height + 1);
-  remember(done.number, {done.value, nodes_ - done.nodesBefore, done.height});
+  remember(done.number,
+           {done.value, text_ - done.textBefore, nodes_ - done.nodesBefore, done.height});
   return std::move(done.value);
 }
 

@@ -7,15 +7,14 @@
 namespace plist {
 namespace {
 
-/// Counts values and depth as the readers do, without going on beyond the limits: what is shared
-/// counts wherever it shows, so there could be far more than memory holds.
+/// Counts values, text and depth as the readers do, without going on beyond the limits: what is
+/// shared counts wherever it shows, so there could be far more than memory holds.
 class Measure {
  public:
   explicit Measure(const Limits& limits) : limits_(limits) {}
 
   bool fits(const Value& root) {
-    if (limits_.nodes == 0) return false;
-    add(root, 1);
+    if (limits_.nodes == 0 || !add(root, 1)) return false;
     while (!open_.empty()) {
       const auto [container, depth] = open_.back();
       open_.pop_back();
@@ -25,8 +24,16 @@ class Measure {
   }
 
  private:
-  void add(const Value& value, std::uint32_t depth) {
+  bool add(const Value& value, std::uint32_t depth) {
     if (value.type() >= Type::Array) open_.emplace_back(&value, depth);
+    if (const auto text = value.string()) return countText(text->size());
+    if (const auto data = value.data()) return countText(data->size());
+    return true;
+  }
+
+  bool countText(std::size_t bytes) {
+    text_ += bytes;
+    return text_ <= limits_.text;
   }
 
   bool count(std::size_t nodes) {
@@ -38,17 +45,18 @@ class Measure {
   bool addElements(const Value& container, std::uint32_t depth) {
     if (const Array* const array = container.array()) {
       if (!count(array->size())) return false;
-      for (const Value& item : *array) add(item, depth);
-      return true;
+      return std::ranges::all_of(*array, [&](const Value& item) { return add(item, depth); });
     }
     const Dictionary& dictionary = *container.dictionary();
     if (!count(2 * dictionary.size())) return false;
-    for (const Dictionary::Entry& entry : dictionary) add(entry.value(), depth);
-    return true;
+    return std::ranges::all_of(dictionary, [&](const Dictionary::Entry& entry) {
+      return countText(entry.key().size()) && add(entry.value(), depth);
+    });
   }
 
   const Limits& limits_;
   std::uint32_t nodes_ = 1;  // the root
+  std::uint64_t text_ = 0;
   std::vector<std::pair<const Value*, std::uint32_t>> open_;
 };
 

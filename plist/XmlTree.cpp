@@ -93,6 +93,7 @@ void Tree::end() {
 
 Value Tree::slice(Kind kind) {
   const std::size_t size = text_.bytes().size() - leafStart_;
+  if (text_.bytes().size() > limits_.text) throw Unreadable("too much text");
   if (size > Internals::kMaxSize) throw Unreadable("value too long");
   return Internals::slice(kind, text_.take(), static_cast<std::uint32_t>(leafStart_),
                           static_cast<std::uint32_t>(size));

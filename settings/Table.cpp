@@ -20,6 +20,9 @@ namespace {
 /// The height of a row that does not say otherwise, in points.
 constexpr double rowHeight = 44;
 
+/// The longest label that is sent whole, in bytes; a file's name has 255 at most.
+constexpr std::size_t maximumLabel = 1024;
+
 constexpr std::string_view controlEnding = ".control";
 constexpr std::string_view confirmEnding = ".confirm";
 
@@ -44,6 +47,15 @@ constexpr const char* nameOf(UITableViewCellEditingStyle style) {
   }
 }
 
+/// What a row shows of a text. The names that are stored may be megabytes long, and all rows may
+/// share one such text, which each message would hold as often.
+std::string labelOf(std::string_view text) {
+  if (text.size() <= maximumLabel) return std::string(text);
+  std::size_t end = maximumLabel;
+  while ((text[end] & 0xc0) == 0x80) --end;  // Not within a letter.
+  return std::string(text.substr(0, end)) + "…";
+}
+
 json cellNode(TableBody& table, const NSIndexPath& path) {
   const std::string id = rowId(table, path);
   const auto style = table.editingStyle(path);
@@ -59,7 +71,7 @@ json cellNode(TableBody& table, const NSIndexPath& path) {
   if (isConfirming) node["confirm"] = id + std::string(confirmEnding);
   if (const auto* cell = desktop::bodyAs<desktop::TableCellBody>(table.cell(path))) {
     const auto& label = *desktop::bodyAs<desktop::LabelBody>(cell->textLabel);
-    node["label"] = desktop::textOf(label.text);
+    node["label"] = labelOf(desktop::textIn(label.text).value_or(""));
     node["color"] = desktop::webColor(label.textColor);
   }
   return node;

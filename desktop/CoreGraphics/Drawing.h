@@ -6,8 +6,9 @@
 
 namespace desktop {
 
-/// The most pixels that a picture may have: what 256 MB hold.
-inline constexpr double maximumPixels = 64'000'000;
+/// The most pixels that a picture may have: what 16 MB hold. The phone's screen has 3 million at
+/// three to a point.
+inline constexpr double maximumPixels = 4'000'000;
 
 /// A transparent surface of premultiplied ARGB, in pixels; null when it cannot be made.
 Surface makeSurface(int width, int height);

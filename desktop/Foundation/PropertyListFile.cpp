@@ -4,17 +4,14 @@
 #include <system_error>
 
 namespace desktop {
-namespace {
 
-constexpr plist::Limits kLimits = {.bytes = PhoneFolder::maximumFileSize};
-
-}  // namespace
+static_assert(plist::Limits().bytes <= PhoneFolder::maximumFileSize);
 
 std::optional<PropertyListFile> readPropertyList(const PhoneFolder& folder, std::string_view path) {
   try {
     std::optional<std::string> bytes = folder.read(path);
     if (!bytes) return std::nullopt;
-    plist::Document document = plist::read(*std::move(bytes), kLimits);
+    plist::Document document = plist::read(*std::move(bytes));
     if (const plist::Dictionary* dictionary = document.root.dictionary()) {
       return PropertyListFile{*dictionary, document.form};
     }
@@ -28,8 +25,7 @@ std::optional<PropertyListFile> readPropertyList(const PhoneFolder& folder, std:
 
 void writePropertyList(const PhoneFolder& folder, std::string_view path,
                        const PropertyListFile& file) {
-  const std::optional<std::string> bytes =
-      plist::write(plist::Value(file.dictionary), file.form, kLimits);
+  const std::optional<std::string> bytes = plist::write(plist::Value(file.dictionary), file.form);
   if (!bytes) throw std::system_error(EFBIG, std::generic_category(), std::string(path));
   folder.replace(path, *bytes);
 }

@@ -41,8 +41,8 @@ TEST(BinaryLimit, KeysCountAsWell) {
 }
 
 TEST(BinaryLimit, WideContainerIsRefusedBeforeItIsBuilt) {
-  EXPECT_NO_THROW(read(binaryFile({arrayOf(399'999), hex("09")})));
-  EXPECT_THROW(read(binaryFile({arrayOf(400'000), hex("09")})), Unreadable);
+  EXPECT_NO_THROW(read(binaryFile({arrayOf(249'999), hex("09")})));
+  EXPECT_THROW(read(binaryFile({arrayOf(250'000), hex("09")})), Unreadable);
 }
 
 TEST(BinaryLimit, InputAboveTheBoundIsUnreadable) {
@@ -56,11 +56,37 @@ TEST(BinaryLimit, HundredMegabytesAreUnreadable) {
   EXPECT_THROW(read(std::move(file)), Unreadable);
 }
 
-TEST(BinaryLimit, SharedTextIsLookedAtOnce) {
-  // 390,000 times a megabyte would take minutes to look at.
+TEST(BinaryLimit, SharedTextCountsWhereverItShows) {
+  const std::string text = hex("54") + "text";
+  const std::string wide = hex("62 4E00 4E01");  // of 6 bytes in UTF-8
+  const std::string data = hex("44") + "data";
+  for (const auto& [object, bytes] : {std::pair(text, 4U), {wide, 6U}, {data, 4U}}) {
+    for (const std::string& file : {binaryFile({arrayOf(3), object}),
+                                    binaryFile({hex("A3 01 01 01"), hex("A1 02"), object})}) {
+      EXPECT_NO_THROW(read(file, {.text = 3 * bytes}));
+      EXPECT_THROW(read(file, {.text = 3 * bytes - 1}), Unreadable);
+    }
+  }
+}
+
+TEST(BinaryLimit, SharedKeysCountAsText) {
+  const std::string file = binaryFile(
+      {hex("A2 01 02"), hex("D1 03 04"), hex("D1 03 04"), hex("54") + "text", hex("09")});
+  EXPECT_NO_THROW(read(file, {.text = 8}));
+  EXPECT_THROW(read(file, {.text = 7}), Unreadable);
+}
+
+TEST(BinaryLimit, MegabytesSharedByThousandsAreUnreadable) {
   const std::string text = hex("5F 12 00100000") + std::string(1 << 20, 'x');
-  const Document document = read(binaryFile({arrayOf(390'000), text}));
-  EXPECT_EQ(document.root.array()->size(), 390'000U);
+  EXPECT_NO_THROW(read(binaryFile({arrayOf(16), text})));
+  EXPECT_THROW(read(binaryFile({arrayOf(17), text})), Unreadable);
+}
+
+TEST(BinaryLimit, SharedTextIsLookedAtOnce) {
+  // 240,000 times a megabyte would take minutes to look at.
+  const std::string text = hex("5F 12 00100000") + std::string(1 << 20, 'x');
+  const Document document = read(binaryFile({arrayOf(240'000), text}), {.text = 240'000ULL << 20});
+  EXPECT_EQ(document.root.array()->size(), 240'000U);
 }
 
 }  // namespace

@@ -46,7 +46,7 @@ TEST(Depth, SharedContainerCountsWhereItIsDeepest) {
 
 // A call of its own for each level would need more stack than there is.
 TEST(Depth, NothingCallsItselfForEachLevel) {
-  constexpr std::size_t kLevels = 300'000;
+  constexpr std::size_t kLevels = 200'000;
   const Value value = samples::nestedArrays(kLevels);
   const Value same = samples::nestedArrays(kLevels);
   EXPECT_EQ(value, same);

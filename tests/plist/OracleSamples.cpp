@@ -16,8 +16,11 @@ namespace {
 
 /// plistlib counts dates in microseconds of the years 1 to 9999 and takes no lone surrogates;
 /// plistutil has besides no empty keys, no sign of a zero and no integers above 2^63 - 1 in XML.
-samples::Variety varietyFor(const std::string& oracle) {
-  if (oracle == "plistlib") return {.anyDates = false, .anyText = false};
+/// XML has no UIDs: every other list goes without, so that its XML is made as well.
+samples::Variety varietyFor(const std::string& oracle, int number) {
+  if (oracle == "plistlib") {
+    return {.anyDates = false, .anyText = false, .uids = number % 2 == 0};
+  }
   return {.singleReals = false,
           .anyDates = false,
           .anyText = false,
@@ -33,7 +36,7 @@ void save(const std::string& path, const std::string& bytes) {
 int make(const std::string& oracle, const std::string& folder, unsigned long seed, int count) {
   std::mt19937_64 random(seed);
   for (int i = 0; i < count; ++i) {
-    const plist::Value tree = samples::randomTree(random, varietyFor(oracle));
+    const plist::Value tree = samples::randomTree(random, varietyFor(oracle, i));
     const std::string path = folder + "/" + std::to_string(i);
     save(path + ".json", samples::describe(tree) + "\n");
     save(path + ".binary", plist::writeBinary(tree));

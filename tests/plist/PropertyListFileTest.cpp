@@ -62,16 +62,16 @@ TEST_F(WrittenFile, DeepXmlStaysReadable) {
 TEST_F(WrittenFile, Utf16ThatIsTooLargeInUtf8BecomesBinary) {
   const auto wide = [](const std::string& ascii) { return samples::utf16(ascii, true).substr(2); };
   PropertyListFile file = given(samples::utf16("<plist><dict><key>a</key><string>", true) +
-                                std::string(12 << 20, '\x4E') + wide("</string></dict></plist>"));
+                                std::string(6 << 20, '\x4E') + wide("</string></dict></plist>"));
   file.dictionary.set("b", Value(true));
   EXPECT_EQ(formAfterWriting(file), Form::Binary);
 }
 
 TEST_F(WrittenFile, OneKeyBeyondTheNodesIsRefused) {
-  // The dictionary, a key, the array and its elements are 400,000 values.
+  // The dictionary, a key, the array and its elements are 250,000 values.
   for (const Form form : {Form::Xml, Form::Binary}) {
     PropertyListFile file =
-        given(inDictionary("<array>" + repeated("<true/>", 399'997) + "</array>"));
+        given(inDictionary("<array>" + repeated("<true/>", 249'997) + "</array>"));
     file.form = form;
     EXPECT_EQ(formAfterWriting(file), form);
     file.dictionary.set("b", Value(true));
@@ -81,7 +81,7 @@ TEST_F(WrittenFile, OneKeyBeyondTheNodesIsRefused) {
 
 TEST_F(WrittenFile, MoreThanAFileHoldsIsRefused) {
   PropertyListFile file = given(inDictionary("<true/>"));
-  file.dictionary.set("b", Value::data(std::string(desktop::PhoneFolder::maximumFileSize, 'x')));
+  file.dictionary.set("b", Value::data(std::string(plist::Limits().bytes, 'x')));
   for (const Form form : {Form::Xml, Form::Binary}) {
     file.form = form;
     expectRefused(file);

@@ -52,8 +52,20 @@ TEST(Write, GivesNoneBeyondTheDepth) {
 
 TEST(Write, GivesNoneBeyondTheNumberOfNodes) {
   for (const Form form : {Form::Xml, Form::Binary}) {
-    EXPECT_EQ(read(write(trues(399'999), form).value()).root.array()->size(), 399'999U);
-    EXPECT_EQ(write(trues(400'000), form), std::nullopt);
+    EXPECT_EQ(read(write(trues(249'999), form).value()).root.array()->size(), 249'999U);
+    EXPECT_EQ(write(trues(250'000), form), std::nullopt);
+  }
+}
+
+TEST(Write, GivesNoneBeyondTheText) {
+  Dictionary dictionary;
+  dictionary.set("key", Value::string("text"));
+  dictionary.set("b", Value::data("data"));
+  for (const Form form : {Form::Xml, Form::Binary}) {
+    const Limits enough = {.text = 12};
+    EXPECT_EQ(read(write(Value(dictionary), form, enough).value(), enough).root, Value(dictionary));
+    EXPECT_EQ(write(Value(dictionary), form, {.text = 11}), std::nullopt);
+    EXPECT_THROW(read(write(Value(dictionary), form).value(), {.text = 11}), Unreadable);
   }
 }
 

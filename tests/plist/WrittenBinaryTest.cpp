@@ -97,9 +97,9 @@ TEST(WrittenBinary, TextSharedInMemoryIsSharedInTheFile) {
 }
 
 TEST(WrittenBinary, ContainersSharedInMemoryAreSharedInTheFile) {
-  // Pairs of the same pair: a few bytes each stand for 2^17 values.
+  // Pairs of the same pair: a few bytes each stand for 2^16 values.
   std::vector<std::string> objects = {hex("A1 01")};
-  for (char next = 2; next <= 18; ++next) objects.push_back("\xA2" + std::string(2, next));
+  for (char next = 2; next <= 17; ++next) objects.push_back("\xA2" + std::string(2, next));
   objects.push_back(hex("09"));
   const std::string file = samples::binaryFile(objects, {.offsetSize = 1});
   Document document = read(file);
