@@ -1,70 +1,53 @@
 import assert from 'node:assert/strict';
-import { once } from 'node:events';
-import { createServer } from 'node:http';
+import { attempts, pushes, socket } from './fixture/attempts.js';
+import { note } from './fixture/figures.js';
 import { scenario } from './fixture/scenario.js';
-
-/** A page of somebody else's, on another port of this machine. */
-async function startForeignSite() {
-  const server = createServer((_, answer) =>
-    answer.writeHead(200, { 'Content-Type': 'text/html' }).end('<!DOCTYPE html><title>x</title>'));
-  server.listen(0, '127.0.0.1');
-  await once(server, 'listening');
-  return server;
-}
+import { Site } from './fixture/site.js';
 
 /** What the browser says when it turns such a page away. */
-const errors =
-  /403|CORS policy|WebSocket connection to .* failed|Refused to |frame-ancestors|ERR_|blocked/;
+const errors = new RegExp('403|405|CORS policy|WebSocket connection to .* failed|Refused to |' +
+  'frame-ancestors|ERR_|blocked|Failed to load|MIME|Unexpected token|import statement');
 
-/** The ways in which a page may reach for another; each tells what it got hold of. */
-const attempts = {
-  fetch: (origin) =>
-    fetch(`${origin}/`, { credentials: 'include' }).then(({ status }) => status, () => 'nothing'),
-  'fetch without looking': (origin) =>
-    fetch(`${origin}/`, { credentials: 'include', mode: 'no-cors' })
-      .then(({ type }) => type, () => 'nothing'),
-  socket: (origin) => new Promise((resolve) => {
-    const socket = new WebSocket(`${origin.replace('http', 'ws')}/socket`);
-    socket.onopen = socket.onmessage = () => resolve('opened');
-    socket.onerror = () => resolve('nothing');
-  }),
-  script: (origin) => new Promise((resolve) => {
-    const script = document.createElement('script');
-    script.type = 'module';
-    Object.assign(script, { src: `${origin}/tree.js`, onload: () => resolve('loaded'),
-                            onerror: () => resolve('nothing') });
-    document.head.append(script);
-  }),
-  'style sheet': (origin) => new Promise((resolve) => {
-    const link = document.createElement('link');
-    Object.assign(link, { rel: 'stylesheet', href: `${origin}/style.css`,
-                          onload: () => resolve('loaded'), onerror: () => resolve('nothing') });
-    document.head.append(link);
-  }),
-  image: (origin) => new Promise((resolve) => {
-    const image = new Image();
-    Object.assign(image, { src: `${origin}/favicon.svg`, onload: () => resolve('loaded'),
-                           onerror: () => resolve('nothing') });
-  }),
-};
+async function found(page, ways, origin) {
+  const results = {};
+  for (const [name, attempt] of Object.entries(ways)) {
+    results[name] = await page.evaluate(attempt, origin);
+  }
+  return results;
+}
 
-scenario('the page itself gets hold of all that others reach for', {},
+const nothing = Object.fromEntries(Object.keys(attempts).map((name) => [name, 'nothing']));
+
+scenario('the page itself gets hold of what others reach for', {},
   async ({ page, program }) => {
-    const found = {};
-    for (const [name, attempt] of Object.entries(attempts)) {
-      found[name] = await page.evaluate(attempt, program.origin);
-    }
-    assert.deepEqual(found, {
-      fetch: 200, 'fetch without looking': 'basic', socket: 'opened', script: 'loaded',
-      'style sheet': 'loaded', image: 'loaded',
+    const ways = ['fetch', 'fetch without looking', 'import', 'script', 'style sheet', 'image'];
+    const own = Object.fromEntries(ways.map((name) => [name, attempts[name]]));
+    assert.deepEqual(await found(page, { ...own, socket }, program.origin), {
+      fetch: 200, 'fetch without looking': 'basic', import: 'loaded', script: 'loaded',
+      'style sheet': 'loaded', image: 'loaded', socket: 'opened',
     });
   });
 
 for (const host of ['127.0.0.1', 'localhost']) {
-  foreignScenario('is answered with nothing', host, async ({ program }, page) => {
-    for (const [name, attempt] of Object.entries(attempts)) {
-      assert.equal(await page.evaluate(attempt, program.origin), 'nothing', name);
+  foreignScenario('would get everything from a site that lets it', host, async (_, page) => {
+    const open = await Site.start();
+    try {
+      const got = await found(page, attempts, `http://127.0.0.1:${open.port}`);
+      assert.deepEqual(Object.keys(got).filter((name) => got[name] === 'nothing'), []);
+    } finally {
+      open.stop();
     }
+  });
+
+  foreignScenario('is answered with nothing', host, async ({ program }, page) => {
+    assert.deepEqual(await found(page, { ...attempts, socket }, program.origin),
+      { ...nothing, socket: 'nothing' });
+    note(`a page of another port of ${host}, in the user's own browser`,
+      `${Object.keys(attempts).length + 1} ways to read: nothing read`, 'nothing read or changed');
+  });
+
+  foreignScenario('changes nothing', host, async ({ program }, page) => {
+    await found(page, pushes, program.origin);
   });
 
   foreignScenario('cannot frame the page', host, async ({ program }, page) => {
@@ -83,25 +66,41 @@ for (const host of ['127.0.0.1', 'localhost']) {
         context.waitForEvent('page'),
         page.evaluate((origin) => void window.open(`${origin}/`), program.origin),
       ]);
-      await opened.waitForLoadState();
-      assert.equal(await opened.locator('.phone').count(), 0);
-      assert.match(await opened.locator('body').innerText(), /Other sites have no access/);
+      await isRefused(opened);
     });
+
+  foreignScenario('cannot lead to the page', host, async ({ program }, page) => {
+    await Promise.all([
+      page.waitForURL(`${program.origin}/`),
+      page.evaluate((origin) => void location.assign(`${origin}/`), program.origin),
+    ]);
+    await isRefused(page);
+  });
+}
+
+async function isRefused(page) {
+  await page.waitForLoadState();
+  assert.equal(await page.locator('.phone').count(), 0);
+  assert.match(await page.locator('body').innerText(), /Other sites have no access/);
 }
 
 /** A scenario with a page of another origin in the very browser that has the cookie. */
 function foreignScenario(name, host, body) {
-  scenario(`a page of another port of ${host} ${name}`, { errors }, async (screen) => {
-    const site = await startForeignSite();
+  const options = { errors, values: "{'clockEnabled': False}" };
+  scenario(`a page of another port of ${host} ${name}`, options, async (screen) => {
+    const before = screen.phone.bytes();
+    const site = await Site.start();
     try {
       const page = await screen.newPage();
-      await page.goto(`http://${host}:${site.address().port}/`);
+      await page.goto(`http://${host}:${site.port}/`);
       await body(screen, page);
     } finally {
-      site.closeAllConnections();
-      site.close();
+      site.stop();
     }
+    assert.deepEqual(screen.phone.bytes(), before);
+    assert.deepEqual(screen.touches, []);
     // The page that belongs there works on.
+    await screen.isOnTop('Quillmere');
     await screen.push('Clock');
   });
 }

@@ -33,9 +33,9 @@ void expectRefused(const std::string& response) {
   EXPECT_TRUE(refusals.contains(response.substr(body + 4))) << response;
 }
 
-class HostileRequests : public RunningProgram {
+class HostileRequest : public RunningProgram {
  protected:
-  HostileRequests() {
+  HostileRequest() {
     const WebSocket page = openPage();
     page.message();
     page.touch({{"kind", "tap"}, {"id", "page1.group0.row1"}});
@@ -54,7 +54,7 @@ class HostileRequests : public RunningProgram {
   }
 };
 
-TEST_F(HostileRequests, GetNothingAndChangeNothing) {
+TEST_F(HostileRequest, GetsNothingAndHarmsNothing) {
   const auto screen = openPage().message();
   const auto stored = contents(preferences());
   ASSERT_TRUE(stored);
@@ -76,7 +76,7 @@ TEST_F(HostileRequests, GetNothingAndChangeNothing) {
 }
 
 /// What follows a body of which it is not sure where it ends is no request.
-TEST_F(HostileRequests, CarryNoSecondRequest) {
+TEST_F(HostileRequest, CarriesNoSecondRequest) {
   const std::string second =
       "GET /app.js HTTP/1.1\r\nHost: {HOST}\r\nCookie: {COOKIE}\r\nConnection: close\r\n\r\n";
   for (const char* fields :
