@@ -98,9 +98,9 @@ std::size_t objectSize(const Value& value) {
     case Kind::Array:
       return headSize(value.array()->size());
     case Kind::Dictionary:
-      return headSize(value.dictionary()->size());
+      break;
   }
-  return 0;
+  return headSize(value.dictionary()->size());
 }
 
 /// Numbers the objects: the root first, then the elements of each container one after another, so
@@ -251,12 +251,11 @@ char* BinaryWriter::writeObject(const Value& value, char* out) {
       const std::size_t count = value.array()->size();
       return writeReferences(count, putCounted(Marker::Array, count, out));
     }
-    case Kind::Dictionary: {
-      const std::size_t count = value.dictionary()->size();
-      return writeReferences(2 * count, putCounted(Marker::Dictionary, count, out));
-    }
+    case Kind::Dictionary:
+      break;
   }
-  return out;
+  const std::size_t count = value.dictionary()->size();
+  return writeReferences(2 * count, putCounted(Marker::Dictionary, count, out));
 }
 
 char* BinaryWriter::writeReferences(std::size_t count, char* out) {

@@ -117,6 +117,12 @@ TEST(BadBinary, ReferencesTooNarrowForTheObjectsAreUnreadable) {
   EXPECT_THROW(read(binaryFile(std::vector<std::string>(256, hex("09")))), Unreadable);
 }
 
+TEST(BadBinary, OffsetsTooNarrowForTheFileAreUnreadable) {
+  const std::string object = hex("4F 11 012C") + std::string(300, '\0');
+  EXPECT_NO_THROW(read(binaryFile({object})));
+  EXPECT_THROW(read(binaryFile({object}, {.offsetSize = 1})), Unreadable);
+}
+
 TEST(BadBinary, ReasonAndPlaceAreGiven) {
   try {
     read(binaryFile({hex("A1 01"), hex("51 80")}));

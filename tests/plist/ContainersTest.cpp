@@ -157,5 +157,15 @@ TEST(Array, CopyKeepsItsElementsWhenTheOriginalChanges) {
   EXPECT_EQ(copy[0].integer(), 1);
 }
 
+TEST(Array, AssignedIsTheOtherAndIndependentOfIt) {
+  Array one;
+  one.append(Value(true));
+  Array other;
+  other = one;
+  EXPECT_EQ(other, one);
+  other.append(Value(false));
+  EXPECT_EQ(one.size(), 1U);
+}
+
 }  // namespace
 }  // namespace plist

@@ -55,6 +55,11 @@ TEST(XmlDocument, CommentsAndInstructionsBetweenElements) {
             Value(true));
 }
 
+TEST(XmlDocument, AttributesOfAnyLength) {
+  const std::string file = "<plist version=\"" + std::string(5000, '1') + "\"><true/></plist>";
+  EXPECT_EQ(root(file), Value(true));
+}
+
 TEST(XmlDocument, DeclaredUtf8InAnyCase) {
   EXPECT_EQ(root("<?xml version='1.0' encoding='utf-8'?><plist><true/></plist>"), Value(true));
 }
