@@ -60,8 +60,8 @@ void PrintTo(const LargeFile& file, std::ostream* out) { *out << file.name; }
 
 class LargeInput : public testing::TestWithParam<LargeFile> {};
 
-// The file itself counts, since read() takes it over.
-TEST_P(LargeInput, NeedsLessThan64MegabytesToReadAndToWrite) {
+// To read and to write it again. The file itself counts, since read() takes it over.
+TEST_P(LargeInput, NeedsLessThan64Megabytes) {
   const std::size_t before = allocation::inUse();
   std::string file = GetParam().make();
   file.shrink_to_fit();
