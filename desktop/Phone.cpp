@@ -1,7 +1,8 @@
 #include "desktop/Phone.h"
 
 #include <cassert>
-#include <iostream>
+
+#include "desktop/Complaint.h"
 
 namespace desktop {
 
@@ -13,7 +14,7 @@ Phone* phoneThatIsOn = nullptr;
 
 Phone::Phone(const std::filesystem::path& host)
     : report([this](const std::string& line) {
-        std::cerr << "quillmere-settings: " << line << std::endl;
+        complain(line);
         banner = line;
       }),
       folder(host),

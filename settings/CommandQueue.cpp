@@ -2,13 +2,14 @@
 
 #include <boost/asio/error.hpp>
 #include <cerrno>
-#include <iostream>
 #include <stdexcept>
 #include <string_view>
 #include <sys/mman.h>
 #include <system_error>
 #include <unistd.h>
 #include <utility>
+
+#include "desktop/Complaint.h"
 
 namespace settings {
 
@@ -92,7 +93,7 @@ void CommandQueue::finish() {
 }
 
 void CommandQueue::complain(const std::string& reason) const {
-  std::cerr << "quillmere-settings: the command \"" << command_ << "\" " << reason << std::endl;
+  desktop::complain("the command \"" + command_ + "\" " + reason);
 }
 
 }  // namespace settings

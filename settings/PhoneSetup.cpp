@@ -24,8 +24,12 @@ constexpr const char* folders[] = {
     "/var/mobile/Library/Preferences",
 };
 
-/// What it has once a mail was written.
-constexpr const char* mailFolders[] = {
+/// Stands in a new phone until all is in it, so that an interrupted start is made good by the next.
+constexpr const char* unfinished = "/.quillmere-unfinished";
+
+/// What else is written into, where it is there.
+constexpr const char* furtherFolders[] = {
+    "/",
     "/var/mobile/Library/Mail/Drafts",
     "/var/mobile/Library/Mail/Outbox",
 };
@@ -33,7 +37,7 @@ constexpr const char* mailFolders[] = {
 /// Deletes what interrupted writes left in all folders that anything is written into.
 void sweep(const desktop::PhoneFolder& folder) {
   for (const char* path : folders) folder.sweep(path);
-  for (const char* path : mailFolders) {
+  for (const char* path : furtherFolders) {
     if (folder.exists(path)) folder.sweep(path);
   }
 }
@@ -85,7 +89,8 @@ bool holdsPhone(const fs::path& folder) {
 }
 
 void setUpPhone(const desktop::PhoneFolder& folder) {
-  const bool isNew = !isPhone(folder);
+  const bool isNew = !isPhone(folder) || folder.exists(unfinished);
+  if (isNew) folder.replace(unfinished, "");
   for (const char* path : folders) folder.makeFolders(path);
   sweep(folder);
   folder.makeLink("/User", "var/mobile");
@@ -94,7 +99,9 @@ void setUpPhone(const desktop::PhoneFolder& folder) {
     throw std::runtime_error("User in the phone folder has to be a link to var/mobile");
   }
   install(folder, bundleFiles());
-  if (isNew) install(folder, sampleFiles());
+  if (!isNew) return;
+  install(folder, sampleFiles());
+  folder.remove(unfinished);
 }
 
 }  // namespace settings

@@ -12,11 +12,11 @@
 #include <boost/beast/http/write.hpp>
 #include <boost/beast/websocket/rfc6455.hpp>
 #include <chrono>
-#include <iostream>
 #include <list>
 #include <stdexcept>
 #include <string>
 
+#include "desktop/Complaint.h"
 #include "settings/Client.h"
 #include "settings/Site.h"
 #include "settings/Touch.h"
@@ -156,7 +156,7 @@ asio::awaitable<void> Server::converse(std::shared_ptr<Client> client, Request h
   } catch (const boost::system::system_error&) {
     // The page was closed.
   } catch (const std::exception& failure) {
-    std::cerr << "quillmere-settings: a page is dropped: " << failure.what() << std::endl;
+    desktop::complain(std::string("a page is dropped: ") + failure.what());
   }
   clients_.erase(client);
 }

@@ -1,5 +1,6 @@
 #include "settings/Session.h"
 
+#include <algorithm>
 #include <optional>
 #include <system_error>
 #include <utility>
@@ -33,6 +34,13 @@ desktop::Identity identityOf(const desktop::PhoneFolder& folder, const Options& 
   return identity;
 }
 
+/// Whether the file system knows no locks (flock(2)).
+bool isUnlockable(const std::error_code& error) {
+  constexpr std::errc reasons[] = {std::errc::no_lock_available, std::errc::not_supported,
+                                   std::errc::function_not_supported, std::errc::invalid_argument};
+  return std::ranges::any_of(reasons, [&](std::errc reason) { return error == reason; });
+}
+
 bool onlyReads(const Options& options) {
   return options.subCommand && options.subCommand->effect == cli::SubCommand::Effect::Reads;
 }
@@ -61,7 +69,12 @@ desktop::Descriptor Session::alone(std::chrono::milliseconds wait) const {
   try {
     return phone.folder.hold(wait);
   } catch (const std::system_error& failure) {
-    if (failure.code() == std::errc::operation_would_block) throw Busy();
+    if (failure.code() == std::errc::operation_would_block) {
+      throw Busy("another program is busy with this phone's folder");
+    }
+    if (!isUnlockable(failure.code())) {
+      throw Busy("the phone's folder cannot be held: " + failure.code().message());
+    }
     // Where folders cannot be locked at all, changes are made all the same.
     phone.report(std::string("other programs are not kept from the phone's folder: ") +
                  failure.what());

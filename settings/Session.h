@@ -10,10 +10,10 @@
 
 namespace settings {
 
-/// Another program has had the phone's folder for too long. `what()` says so to the user.
+/// This program cannot have the phone's folder for itself, mostly because another one has had it
+/// for too long. `what()` says so to the user.
 class Busy : public std::runtime_error {
- public:
-  Busy() : std::runtime_error("another program is busy with this phone's folder") {}
+  using std::runtime_error::runtime_error;
 };
 
 /// A phone, switched on as the command line says, with the Settings application at the add-on's

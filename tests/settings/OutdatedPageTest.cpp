@@ -36,7 +36,8 @@ class OutdatedPageTest : public PhoneScreenTest {
   }
   std::vector<std::string> enabled() const {
     std::vector<std::string> names;
-    for (const Value& each : *stored("enabledLotties")->array()) names.emplace_back(*each.string());
+    const Value list = *stored("enabledLotties");
+    for (const Value& each : *list.array()) names.emplace_back(*each.string());
     return names;
   }
 };

@@ -54,6 +54,32 @@ class PhoneSetupTest : public testing::Test {
   const support::TemporaryFolder folder;
 };
 
+TEST_F(PhoneSetupTest, MakesAnInterruptedFirstStartGood) {
+  setUp();
+  const auto whole = contents();
+  for (const settings::Asset& file : settings::sampleFiles()) fs::remove(host(file.path));
+  writeBytes(host("/.quillmere-unfinished"), "");
+  setUp();
+  for (const settings::Asset& file : settings::sampleFiles()) {
+    EXPECT_EQ(bytesOf(host(file.path)), file.bytes) << file.path;
+  }
+  EXPECT_EQ(contents().size(), whole.size()) << "and leaves nothing behind";
+}
+
+TEST_F(PhoneSetupTest, DeletesWhatInterruptedWritesLeftEverywhere) {
+  setUp();
+  fs::create_directories(host("/var/mobile/Library/Mail/Outbox"));
+  const auto before = contents();
+  for (const char* path : {"/", "/Library/PreferenceBundles/Quillmere.bundle/",
+                           "/Library/PreferenceLoader/Preferences/", "/Library/Lotties/Quillmere/",
+                           "/System/Library/CoreServices/", "/var/mobile/Library/Mail/Outbox/",
+                           "/var/mobile/Library/Preferences/"}) {
+    writeBytes(host(std::string(path) + ".quillmere-aside-1"), "half");
+  }
+  setUp();
+  EXPECT_EQ(contents(), before);
+}
+
 TEST_F(PhoneSetupTest, LaysANewFolderOut) {
   setUp();
   expectBundle();
