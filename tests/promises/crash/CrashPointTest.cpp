@@ -3,7 +3,7 @@
 namespace crash_tests {
 namespace {
 
-constexpr std::size_t pointsInShort = 8;
+constexpr std::size_t pointsInShort = 12;
 
 class CrashPoint : public EveryChange<Fault> {
  protected:

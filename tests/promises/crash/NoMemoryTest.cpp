@@ -10,7 +10,7 @@
 namespace crash_tests {
 namespace {
 
-constexpr std::size_t pointsInShort = 24;
+constexpr std::size_t pointsInShort = 36;
 constexpr Fault noMemory[] = {{"NoMemory", Blow::NoMemory}};
 
 /// An allocation's number, and how many there were, shared with the program.

@@ -1,6 +1,5 @@
 #include "tests/promises/crash/Phone.h"
 
-#include <algorithm>
 #include <fstream>
 #include <optional>
 #include <stdexcept>
@@ -19,7 +18,6 @@ namespace {
 constexpr const char* preferences = "var/mobile/Library/Preferences";
 constexpr const char* file = "com.orvalen.quillmere.plist";
 constexpr const char* pending = "com.orvalen.quillmere.plist.pending";
-constexpr const char* asideMark = ".quillmere-aside-";
 
 std::optional<plist::Dictionary> read(const fs::path& path) {
   const auto bytes = program_tests::contents(path);
@@ -30,12 +28,6 @@ std::optional<plist::Dictionary> read(const fs::path& path) {
 }
 
 std::string binary(const std::string& xml) { return plist::writeBinary(plist::read(xml).root); }
-
-bool isAside(const fs::path& path) { return path.filename().string().starts_with(asideMark); }
-
-bool isOfSettings(const fs::path& path) {
-  return path.filename() == file || path.filename() == pending;
-}
 
 }  // namespace
 
@@ -68,23 +60,21 @@ plist::Dictionary settingsOf(const fs::path& phone) {
   return settings;
 }
 
-std::size_t countAsides(const fs::path& phone) {
-  return static_cast<std::size_t>(
-      std::ranges::count_if(fs::recursive_directory_iterator(phone), isAside,
-                            [](const auto& entry) -> const fs::path& { return entry.path(); }));
-}
-
-std::map<std::string, std::string> filesOf(const fs::path& phone) {
-  std::map<std::string, std::string> files;
+Contents contentsOf(const fs::path& phone) {
+  Contents contents;
   for (const auto& entry : fs::recursive_directory_iterator(phone)) {
     const fs::path& path = entry.path();
-    if (entry.is_directory() && !entry.is_symlink()) continue;
-    if (isOfSettings(path) || isAside(path)) continue;
-    files[path.lexically_relative(phone)] = entry.is_symlink()
-                                                ? fs::read_symlink(path).string()
-                                                : program_tests::contents(path).value_or("");
+    contents[path.lexically_relative(phone)] = entry.is_symlink() ? fs::read_symlink(path).string()
+                                               : entry.is_directory()
+                                                   ? "/"
+                                                   : program_tests::contents(path).value_or("");
   }
-  return files;
+  return contents;
+}
+
+Contents besidesSettings(Contents contents) {
+  contents.erase((fs::path(preferences) / file).string());
+  return contents;
 }
 
 }  // namespace crash_tests

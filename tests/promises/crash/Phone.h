@@ -19,11 +19,13 @@ void copyPhone(const std::filesystem::path& phone, const std::filesystem::path& 
 /// holds no keys. Throws plist::Unreadable when either is torn.
 plist::Dictionary settingsOf(const std::filesystem::path& phone);
 
-/// The files that new contents are written to before they take a file's place.
-std::size_t countAsides(const std::filesystem::path& phone);
+/// All that is in the phone, by its path there: what a file holds, where a link leads, "/" for a
+/// folder.
+using Contents = std::map<std::string, std::string>;
+Contents contentsOf(const std::filesystem::path& phone);
 
-/// All files and links but those of the settings and of new contents, by their paths in the phone,
-/// with their contents.
-std::map<std::string, std::string> filesOf(const std::filesystem::path& phone);
+/// Of that, all but the preferences file. What is kept beside it, and new contents that wait to
+/// take a file's place, have no business on a phone that is left alone.
+Contents besidesSettings(Contents contents);
 
 }  // namespace crash_tests

@@ -75,7 +75,8 @@ std::string Tally::text() const {
   const auto number = [&](Verdict::Kind kind) { return support::grouped(counts_[kind]); };
   return support::grouped(runs) + " runs: " + number(Verdict::Torn) + " torn, " +
          number(Verdict::Lost) + " lost, " + number(Verdict::Old) + " acknowledged but old, " +
-         number(Verdict::Left) + " with temporary files after restart";
+         number(Verdict::Left) + " with temporary files and " + number(Verdict::Broken) +
+         " not whole after restart";
 }
 
 }  // namespace crash_tests

@@ -8,7 +8,7 @@
 namespace crash_tests {
 namespace {
 
-constexpr std::size_t pointsInShort = 8;
+constexpr std::size_t pointsInShort = 9;
 
 struct Cut {
   const char* name;

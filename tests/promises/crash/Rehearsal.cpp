@@ -1,11 +1,13 @@
 #include "tests/promises/crash/Rehearsal.h"
 
+#include <algorithm>
+#include <map>
 #include <memory>
 #include <stdexcept>
+#include <string_view>
 
 #include "plist/Document.h"
 #include "tests/promises/crash/Page.h"
-#include "tests/promises/crash/Phone.h"
 
 namespace crash_tests {
 
@@ -15,6 +17,9 @@ namespace {
 
 /// Changed by the restart, and by no change of the table.
 constexpr const char* restartKey = "quickActionsSize";
+
+/// In the name of a file whose contents are to take another's place.
+constexpr std::string_view asideMark = ".quillmere-aside-";
 
 plist::Dictionary without(plist::Dictionary dictionary, const std::string& key) {
   dictionary.erase(key);
@@ -33,6 +38,13 @@ Command commandFor(const Change& change, const fs::path& phone, bool& isAcknowle
   return command;
 }
 
+/// The first path that one of them lacks, or that differs; empty when they are the same.
+std::string difference(const Contents& found, const Contents& wanted) {
+  const auto [one, other] = std::mismatch(found.begin(), found.end(), wanted.begin(), wanted.end());
+  if (one == found.end()) return other == wanted.end() ? "" : other->first;
+  return other == wanted.end() ? one->first : std::min(one->first, other->first);
+}
+
 }  // namespace
 
 Rehearsal::Rehearsal(const Change& change) : change_(change) {
@@ -47,7 +59,7 @@ Rehearsal::Rehearsal(const Change& change) : change_(change) {
   if (!isAcknowledged) throw std::runtime_error("the change is not made: " + undisturbed.said);
   calls_ = undisturbed.calls;
   new_ = settingsOf(phone);
-  files_ = filesOf(phone);
+  besides_ = besidesSettings(contentsOf(phone));
   expectTheChange();
 }
 
@@ -88,6 +100,8 @@ Verdict Rehearsal::judgeSettings(const fs::path& phone, bool isAcknowledged) con
 }
 
 Verdict Rehearsal::judgeRestart(const fs::path& phone) const {
+  const Contents left = contentsOf(phone);
+  if (isKnownToRestart(left)) return {};
   const plist::Dictionary settings = settingsOf(phone);
   const Run restarted = run({{"--root", phone.string(), "set", restartKey, "60"}});
   const plist::Dictionary afterwards = settingsOf(phone);
@@ -95,11 +109,21 @@ Verdict Rehearsal::judgeRestart(const fs::path& phone) const {
     return {Verdict::Lost, "keys are lost by a restart"};
   }
   if (restarted.exitCode != 0 || !afterwards.contains(restartKey)) {
-    return {Verdict::Left, "no change is possible after a restart: " + restarted.said};
+    return {Verdict::Broken, "no change is possible after a restart: " + restarted.said};
   }
-  if (countAsides(phone) > 0) return {Verdict::Left, "temporary files are left after a restart"};
-  if (filesOf(phone) != files_) return {Verdict::Left, "the phone is not whole after a restart"};
+  const std::string odd = difference(besidesSettings(contentsOf(phone)), besides_);
+  if (!odd.empty()) {
+    const bool isAside = odd.find(asideMark) != std::string::npos;
+    return {isAside ? Verdict::Left : Verdict::Broken, odd + " is odd after a restart"};
+  }
+  const std::scoped_lock lock(mutex_);
+  restarting_.insert(left);
   return {};
+}
+
+bool Rehearsal::isKnownToRestart(const Contents& left) const {
+  const std::scoped_lock lock(mutex_);
+  return restarting_.contains(left);
 }
 
 const Rehearsal& rehearsalOf(const Change& change) {

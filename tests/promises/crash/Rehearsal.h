@@ -1,12 +1,14 @@
 #pragma once
 
 #include <filesystem>
-#include <map>
+#include <mutex>
+#include <set>
 #include <string>
 #include <vector>
 
 #include "plist/Value.h"
 #include "tests/promises/crash/Change.h"
+#include "tests/promises/crash/Phone.h"
 #include "tests/promises/crash/Trace.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -16,10 +18,11 @@ namespace crash_tests {
 struct Verdict {
   enum Kind {
     Whole,
-    Torn,  ///< The preferences file cannot be read.
-    Lost,  ///< It holds neither what it held nor what it was to hold.
-    Old,   ///< The change was acknowledged, and is not there.
-    Left,  ///< Something temporary, or half a phone, is there after a restart.
+    Torn,    ///< The preferences file cannot be read.
+    Lost,    ///< It holds neither what it held nor what it was to hold.
+    Old,     ///< The change was acknowledged, and is not there.
+    Left,    ///< A temporary file is there after a restart.
+    Broken,  ///< Another file is missing or another after a restart, or nothing can be changed.
     Kinds,
   } kind = Whole;
   std::string words{};
@@ -50,6 +53,7 @@ class Rehearsal {
  private:
   Verdict judgeSettings(const std::filesystem::path& phone, bool isAcknowledged) const;
   Verdict judgeRestart(const std::filesystem::path& phone) const;
+  bool isKnownToRestart(const Contents& left) const;
   void expectTheChange() const;
 
   const Change change_;
@@ -58,7 +62,10 @@ class Rehearsal {
   plist::Dictionary old_;
   plist::Dictionary new_;
   std::vector<SystemCall> calls_;
-  std::map<std::string, std::string> files_;  ///< Besides the settings.
+  Contents besides_;  ///< Besides the settings, after the undisturbed run and any restart.
+  /// What restarts are known to come well of, so that they need not be tried each time.
+  mutable std::set<Contents> restarting_;
+  mutable std::mutex mutex_;
 };
 
 /// The change's rehearsal, made at the first call.

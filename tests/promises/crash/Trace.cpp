@@ -3,18 +3,16 @@
 #include <algorithm>
 #include <array>
 #include <csignal>
-#include <cstddef>
 #include <cstdlib>
 #include <fcntl.h>
-#include <limits>
 #include <stdexcept>
 #include <sys/ptrace.h>
 #include <sys/syscall.h>
-#include <sys/user.h>
-#include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
 #include <utility>
+
+#include "tests/promises/crash/Tracee.h"
 
 namespace crash_tests {
 
@@ -43,119 +41,13 @@ constexpr std::pair<SystemCall, const char*> names[] = {
   _exit(127);
 }
 
-/// A process that stops at the beginning and at the end of each of its system calls.
-class Tracee {
- public:
-  explicit Tracee(pid_t process) : process_(process) {
-    wait();
-    ptrace(PTRACE_SETOPTIONS, process, nullptr, PTRACE_O_TRACESYSGOOD | PTRACE_O_EXITKILL);
-  }
-
-  bool isOver() const { return WIFEXITED(status_) || WIFSIGNALED(status_); }
-  int exitCode() const {
-    return WIFEXITED(status_) ? WEXITSTATUS(status_) : 128 + WTERMSIG(status_);
-  }
-
-  /// Goes on to the next stop at a call, or to its end.
-  void goOn() {
-    int passed = 0;
-    do {
-      ptrace(PTRACE_SYSCALL, process_, nullptr, passed);
-      wait();
-      passed = isOver() ? 0 : WSTOPSIG(status_);
-    } while (!isOver() && passed != atCall);
-  }
-  /// Is traced no longer, and runs to its end.
-  void leave() {
-    ptrace(PTRACE_DETACH, process_, nullptr, nullptr);
-    while (!isOver()) wait();
-  }
-  void kill() {
-    ::kill(process_, SIGKILL);
-    while (!isOver()) wait();
-  }
-
-  /// The call that begins here; none where one ends.
-  std::optional<SystemCall> beginning() const {
-    __ptrace_syscall_info info{};
-    ptrace(PTRACE_GET_SYSCALL_INFO, process_, sizeof info, &info);
-    if (info.op != PTRACE_SYSCALL_INFO_ENTRY) return std::nullopt;
-    return static_cast<SystemCall>(info.entry.nr);
-  }
-
-  user_regs_struct registers() const {
-    user_regs_struct found{};
-    ptrace(PTRACE_GETREGS, process_, nullptr, &found);
-    return found;
-  }
-  void set(const user_regs_struct& registers) const {
-    ptrace(PTRACE_SETREGS, process_, nullptr, &registers);
-  }
-
- private:
-  static constexpr int atCall = SIGTRAP | 0x80;
-
-  void wait() {
-    while (waitpid(process_, &status_, 0) < 0 && errno == EINTR) {
-    }
-  }
-
-  pid_t process_;
-  int status_ = 0;
-};
-
-void refuse(Tracee& tracee, int error) {
-  user_regs_struct registers = tracee.registers();
-  registers.orig_rax = std::numeric_limits<decltype(registers.orig_rax)>::max();  // No call.
-  tracee.set(registers);
-  tracee.goOn();
-  if (tracee.isOver()) return;
-  registers = tracee.registers();
-  registers.rax = static_cast<decltype(registers.rax)>(-error);
-  tracee.set(registers);
-}
-
-/// The third argument of a write is how many bytes. The program has its registers back afterwards.
-void halve(Tracee& tracee) {
-  user_regs_struct registers = tracee.registers();
-  const auto whole = registers.rdx;
-  registers.rdx = whole / 2;
-  tracee.set(registers);
-  tracee.goOn();
-  if (tracee.isOver()) return;
-  registers = tracee.registers();
-  registers.rdx = whole;
-  tracee.set(registers);
-}
-
-/// At the beginning of a call.
-void strike(Tracee& tracee, const Fault& fault) {
-  switch (fault.blow) {
-    case Blow::KilledAfter:
-      tracee.goOn();
-      [[fallthrough]];
-    case Blow::KilledBefore:
-      if (!tracee.isOver()) tracee.kill();
-      break;
-    case Blow::Refused:
-      refuse(tracee, fault.error);
-      break;
-    case Blow::Halved:
-      halve(tracee);
-      break;
-    case Blow::None:
-    case Blow::NoMemory:
-      break;
-  }
-}
-
 void follow(Tracee& tracee, const Fault& fault, std::size_t nth, Run& run) {
   while (run.calls.size() <= nth) {
     tracee.goOn();
     if (tracee.isOver()) return;
     if (const auto call = tracee.beginning()) run.calls.push_back(*call);
   }
-  strike(tracee, fault);
+  tracee.strike(fault);
   if (!tracee.isOver()) tracee.leave();
 }
 
