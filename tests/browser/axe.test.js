@@ -34,6 +34,12 @@ const still = ({ page }) => page.waitForFunction(() => document.getAnimations().
 const overlays = {
   'a prompt': ['12.4', (screen) => button(screen, 'Respring').click()],
   'the greeting': ['14.3', () => {}],
+  'a banner': ['12.4', async (screen) => {
+    screen.phone.storeBytes('no property list');
+    await screen.push('Clock');
+    await screen.group('Clock').getByRole('switch').click();
+    await screen.page.getByRole('button', { name: 'Dismiss' }).waitFor();
+  }],
   'a mail': ['12.4', (screen) => button(screen, 'Write to Support').click()],
   'a mail that is cancelled': ['12.4', async (screen) => {
     await button(screen, 'Write to Support').click();
