@@ -56,8 +56,9 @@ std::string writeBinary(const Value& value);
 
 /// The value as XML, none when XML cannot carry some of it exactly: a date with a fraction, not
 /// finite or -0.0; a UID; text that XML 1.0 has no form for; a NaN other than the plain quiet one.
-/// A real of single width is written as the same number, which reads back in double width.
-std::optional<std::string> writeXml(const Value& value);
+/// A real of single width is written as the same number, which reads back in double width. None
+/// also where it takes more than `most` bytes, without making much more of them.
+std::optional<std::string> writeXml(const Value& value, std::size_t most = SIZE_MAX);
 
 /// A file that read() takes within the limits: in the wanted form; in binary also where XML cannot
 /// carry the value or is too large. None where the value goes beyond the limits in either form.

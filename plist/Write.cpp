@@ -66,8 +66,7 @@ std::optional<std::string> write(const Value& value, Form wanted, const Limits& 
   if (!Measure(limits).fits(value)) return {};
   const std::size_t most = std::min(limits.bytes, Limits::kMostBytes);
   if (wanted == Form::Xml) {
-    std::optional<std::string> xml = writeXml(value);
-    if (xml && xml->size() <= most) return xml;
+    if (std::optional<std::string> xml = writeXml(value, most)) return xml;
   }
   std::string binary = writeBinary(value);
   if (binary.size() > most) return {};

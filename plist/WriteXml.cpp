@@ -35,17 +35,18 @@ struct Open {
 /// Writes one value after another and remembers whether XML could carry them all.
 class XmlWriter {
  public:
-  explicit XmlWriter(std::string& out) : out_(out) {}
+  XmlWriter(std::string& out, std::size_t most) : out_(out), most_(most) {}
 
   bool write(const Value& root) {
     out_ += kHead;
     begin(root);
-    while (exact_ && !open_.empty()) step();
+    while (isGood() && !open_.empty()) step();
     out_ += kFoot;
-    return exact_;
+    return isGood();
   }
 
  private:
+  [[nodiscard]] bool isGood() const { return exact_ && out_.size() <= most_; }
   [[nodiscard]] std::size_t tabs() const { return std::min(open_.size(), kMostTabs); }
   void indent() { out_.append(tabs(), '\t'); }
 
@@ -69,6 +70,7 @@ class XmlWriter {
   }
 
   std::string& out_;
+  const std::size_t most_;
   std::vector<Open> open_;
   bool exact_ = true;
 };
@@ -136,7 +138,7 @@ void XmlWriter::beginContainer(Open container) {
 void XmlWriter::writeText(std::string_view name, std::string_view text) {
   exact_ &= fitsXml(text);
   tag("<", name, ">");
-  for (;;) {
+  while (isGood()) {  // Marks take five times as much as in memory.
     // A carriage return as it is would become a line feed in the hands of an XML parser.
     const std::size_t plain = std::min(text.find_first_of("<>&\r"), text.size());
     out_ += text.substr(0, plain);
@@ -168,9 +170,9 @@ void XmlWriter::writeData(std::string_view bytes) {
 
 }  // namespace
 
-std::optional<std::string> writeXml(const Value& value) {
+std::optional<std::string> writeXml(const Value& value, std::size_t most) {
   std::string out;
-  if (!XmlWriter(out).write(value)) return {};
+  if (!XmlWriter(out, most).write(value)) return {};
   return out;
 }
 

@@ -107,6 +107,11 @@ INSTANTIATE_TEST_SUITE_P(
         LargeFile{
             "XmlText", true,
             [] { return samples::xmlFile("<string>" + std::string(kFill, 'x') + "</string>"); }},
+        LargeFile{"XmlMarks", true,
+                  [] {
+                    return samples::xmlFile("<string><![CDATA[" + std::string(kFill, '&') +
+                                            "]]></string>");
+                  }},
         LargeFile{"XmlUtf16Text", true,
                   [] {
                     return samples::utf16("<plist><string>", true) + std::string(kFill, '\x4E') +

@@ -1,4 +1,5 @@
 #include <cmath>
+#include <ctime>
 #include <fstream>
 #include <gtest/gtest.h>
 
@@ -51,23 +52,21 @@ TEST_F(LargePictureTest, CostsLessThan64MebibytesAndASecond) {
   }
   const std::size_t before = memory("VmRSS");
   forgetMost();
-  const auto start = std::chrono::steady_clock::now();
+  const std::clock_t start = std::clock();
   OpenedPhone phone(folder.path);
   for (const auto& [id, node] : phone.look()) {
     const auto source = node.find("source");
     if (source == node.end() || !source->is_string()) continue;
     EXPECT_TRUE(phone.screen().file(source->get<std::string>(), phone.pictures())) << *source;
   }
-  const auto time = std::chrono::steady_clock::now() - start;
+  const std::clock_t time = std::clock() - start;
   const std::size_t most = memory("VmHWM") - before;
   EXPECT_LT(most, 64 * mebibyte);
-  EXPECT_LT(time, std::chrono::seconds(1));
-  support::note(
-      "large pictures in the bundle",
-      std::to_string(most / mebibyte) + " MiB, " +
-          std::to_string(std::chrono::duration_cast<std::chrono::milliseconds>(time).count()) +
-          " ms",
-      "under 64 MiB and 1 s");
+  EXPECT_LT(time, CLOCKS_PER_SEC);
+  support::note("large pictures in the bundle",
+                std::to_string(most / mebibyte) + " MiB, " +
+                    std::to_string(time * 1000 / CLOCKS_PER_SEC) + " ms",
+                "under 64 MiB and 1 s");
 }
 
 }  // namespace

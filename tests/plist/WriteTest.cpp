@@ -69,6 +69,15 @@ TEST(Write, GivesNoneBeyondTheText) {
   }
 }
 
+TEST(Write, GivesNoXmlBeyondTheBytes) {
+  for (const char* text : {"text", "&&&&", ""}) {
+    const Value value = Value::string(text);
+    const std::string xml = writeXml(value).value();
+    EXPECT_EQ(writeXml(value, xml.size()), xml);
+    EXPECT_EQ(writeXml(value, xml.size() - 1), std::nullopt);
+  }
+}
+
 TEST(Write, KeysCountAsNodes) {
   Dictionary dictionary;
   dictionary.set("a", Value(true));
@@ -94,6 +103,14 @@ TEST(Write, DeepXmlStaysAboutAsLarge) {
       samples::xmlFile(samples::repeated("<array>", 490) + samples::repeated("<true/>", 100'000) +
                        samples::repeated("</array>", 490));
   EXPECT_LT(writeXml(read(file).root).value().size(), 3 * file.size());
+}
+
+TEST(Write, GivesNoneForTextBeyondTheLimit) {
+  Dictionary dictionary;
+  dictionary.set("key", Value(true));
+  EXPECT_EQ(write(Value(dictionary), Form::Xml, {.text = 2}), std::nullopt);
+  EXPECT_EQ(write(Value::string("text"), Form::Xml, {.text = 3}), std::nullopt);
+  EXPECT_NE(write(Value::string("text"), Form::Xml, {.text = 4}), std::nullopt);
 }
 
 }  // namespace
