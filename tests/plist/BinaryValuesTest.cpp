@@ -128,6 +128,7 @@ TEST(BinaryValue, ChangingOnePlaceOfASharedContainerLeavesTheOther) {
 
 TEST(BinaryValue, OddWidthsAreRead) {
   EXPECT_EQ(read(binaryFile({hex("09")}, {.offsetSize = 3})).root, Value(true));
+  EXPECT_EQ(read(binaryFile({hex("09")}, {.offsetSize = 8})).root, Value(true));
   EXPECT_EQ(read(binaryFile({hex("A1 0000000001"), hex("09")}, {.referenceSize = 5}))
                 .root.array()
                 ->size(),

@@ -167,5 +167,14 @@ TEST(Array, AssignedIsTheOtherAndIndependentOfIt) {
   EXPECT_EQ(one.size(), 1U);
 }
 
+TEST(Dictionary, ErasedKeyIsGoneFromFewAndFromMany) {
+  for (const int count : {3, 300}) {
+    Dictionary dictionary = numbered(count);
+    EXPECT_TRUE(dictionary.erase("key1"));
+    EXPECT_FALSE(dictionary.contains("key1"));
+    EXPECT_TRUE(dictionary.contains("key2"));
+  }
+}
+
 }  // namespace
 }  // namespace plist

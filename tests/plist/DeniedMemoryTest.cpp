@@ -51,6 +51,11 @@ TEST(DeniedMemory, ReadingXmlIsWholeOrNothing) {
   denyEach([&] { EXPECT_TRUE(read(file).root == value); });
 }
 
+TEST(DeniedMemory, ReadingLongAttributesIsWholeOrNothing) {
+  const std::string file = "<plist version=\"" + std::string(5000, '1') + "\"><true/></plist>";
+  denyEach([&] { EXPECT_TRUE(read(file).root == Value(true)); });
+}
+
 TEST(DeniedMemory, RefusingIsStillARefusalOrBadAlloc) {
   const std::string file =
       samples::xmlFile("<array><string>a</string><integer>x</integer></array>");

@@ -125,5 +125,13 @@ TEST(Value, AssigningAnElementToItsOwnContainerWorks) {
   EXPECT_EQ(value.string(), "kept");
 }
 
+TEST(Value, OfAnotherTypeGivesNone) {
+  EXPECT_FALSE(Value(true).uid());
+  EXPECT_FALSE(Value(true).unsignedInteger());
+  EXPECT_FALSE(Value::integer(-1).unsignedInteger());
+  EXPECT_EQ(Value::integer(5).unsignedInteger(), 5U);
+  EXPECT_EQ(Value(true).dictionary(), nullptr);
+}
+
 }  // namespace
 }  // namespace plist

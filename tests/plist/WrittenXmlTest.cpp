@@ -121,5 +121,10 @@ TEST(WrittenXml, DataInLinesOf76Columns) {
             "<array>\n\t<data>\n\t" + std::string(68, 'A') + "\n\t</data>\n</array>\n");
 }
 
+TEST(WrittenXml, TabsAndEndsOfLinesStay) {
+  const Value text = Value::string("a\tb\nc\rd");
+  EXPECT_EQ(read(writeXml(text).value()).root, text);
+}
+
 }  // namespace
 }  // namespace plist

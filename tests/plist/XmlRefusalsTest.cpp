@@ -137,5 +137,12 @@ TEST(BadXml, EndlessTagIsUnreadable) {
                Unreadable);
 }
 
+TEST(BadXml, YearsWhoseSecondsNoDoubleCountsAreUnreadable) {
+  for (const std::string year : {"285616000", "-285616000"}) {
+    const std::string date = "<date>" + year + "-01-01T00:00:00Z</date>";
+    EXPECT_THROW(read(samples::xmlFile(date)), Unreadable) << year;
+  }
+}
+
 }  // namespace
 }  // namespace plist
