@@ -51,11 +51,13 @@ TEST_F(Scarcity, OfDescriptorsIsToldAndOver) {
   }
   EXPECT_GT(told, 0U) << "nothing was scarce";
   int value = 60;  // The crowd's descriptors come free in a moment.
-  const auto end = Clock::now() + 10s;
-  while (slideTo(page, value), stored() != value && Clock::now() < end) ++value;
+  const auto until = Clock::now() + 10s;
+  while (slideTo(page, value), stored() != value && Clock::now() < until) ++value;
   EXPECT_EQ(stored(), value);
   cramped.signal(SIGTERM);
-  EXPECT_EQ(cramped.end().exitCode, 0);
+  const End ended = cramped.end();
+  EXPECT_EQ(ended.exitCode, 0);
+  EXPECT_FALSE(contains(ended.err, "other programs are not kept")) << ended.err;
   support::note("descriptors used up by others", std::to_string(told) + " of 30 changes told",
                 "0 lost untold, it stays up");
 }

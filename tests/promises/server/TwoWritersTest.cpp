@@ -64,7 +64,7 @@ class TwoWriters : public Served {
       const Program& either = below(2) == 0 ? program : other;
       std::this_thread::sleep_for(std::chrono::microseconds(below(20'000)));
       either.signal(SIGSTOP);
-      const bool isLong = below(20) == 0;
+      const bool isLong = below(8) == 0;
       std::this_thread::sleep_for(isLong ? 1200ms : std::chrono::milliseconds(below(50)));
       either.signal(SIGCONT);
       ++stops;
