@@ -16,6 +16,7 @@ Phone::Phone(const std::filesystem::path& host)
     : report([this](const std::string& line) {
         complain(line);
         banner = line;
+        ++reports;
       }),
       folder(host),
       preferences(*this) {

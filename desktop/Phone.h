@@ -41,6 +41,8 @@ class Phone {
 
   /// What was reported last and has not been put away; empty when there is nothing.
   std::string banner;
+  /// How much was reported so far.
+  std::size_t reports = 0;
 
   /// Classes whose library is not installed on this phone.
   std::set<std::string> missingClasses;

@@ -165,6 +165,11 @@ void drag(const Hands& hands, const json& message) {
   table->drag(target->path, proposed);
 }
 
+/// Where something was not stored, the page shows what is instead.
+void showTruth(desktop::SpringBoard& board) {
+  if (board.navigation() && !leaveOutdatedPage(board)) board.navigation()->redraw();
+}
+
 struct Kind {
   std::string_view name;
   void (*perform)(const Hands&, const json&);
@@ -199,10 +204,13 @@ void touch(desktop::SpringBoard& board, Viewport& viewport, std::string_view tex
   const auto name = field<std::string>(message, "kind");
   const auto* kind = std::ranges::find(kinds, name, &Kind::name);
   require(kind != std::end(kinds), "there is no touch \"" + name + '"');
+  const std::size_t& reports = desktop::Phone::current().reports;
+  const std::size_t before = reports;
   try {
     require(kind->effect == Kind::Looks || !leaveOutdatedPage(board),
             "what this page showed has been changed elsewhere: open it again");
     kind->perform({board, viewport}, message);
+    if (reports != before) showTruth(board);
   } catch (const desktop::Exception& raised) {
     // On a phone the Settings app would end here; at a desk, hearing of it is worth more.
     desktop::Phone::current().report(raised.what());

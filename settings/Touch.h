@@ -14,9 +14,9 @@ class RefusedTouch : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// Leaves the page on top when a list or dictionary that it holds is another one by now, by another
-/// program's hand or because it could not be read before: acting on the page would undo that.
-/// Whether it did.
+/// Leaves the page on top when a list or dictionary that it holds is not what is stored by now, by
+/// another program's hand, because it could not be read before or because it was not stored: acting
+/// on the page would undo that. Whether it did.
 bool leaveOutdatedPage(desktop::SpringBoard& board);
 
 /// Carries out a touch, a JSON message from a page (docs/protocol.md lists them). `viewport` is

@@ -116,9 +116,10 @@ std::optional<plist::Value> PreferencesService::valueOnDisk(const std::string& d
 
 void PreferencesService::set(const std::string& domain, const std::string& key,
                              const std::optional<plist::Value>& value) {
+  // Whoever sets it holds it, stored or not.
+  answers_[{domain, key}] = value;
   try {
     store(domain, key, value);
-    answers_[{domain, key}] = value;
   } catch (const std::exception& failure) {
     phone_.report(key + " was not stored in " + pathOf(domain) + ": " + failure.what());
   }

@@ -41,6 +41,8 @@ void NavigationController::pop() {
   top().controller->viewDidAppear(Animated::Yes);
 }
 
+void NavigationController::redraw() { top().sections = draw(*top().controller); }
+
 void NavigationController::present(const platform::Object& screen) {
   if (presented_) {
     return Phone::current().report(debugDescription(screen) + " is not shown: " +

@@ -31,6 +31,9 @@ class NavigationController {
   /// Drops the page on top and draws the one below; the first page stays.
   void pop();
 
+  /// Draws the page on top anew, as when it comes to the top.
+  void redraw();
+
   /// What lies over all pages and takes all touches (an alert, a welcome screen, a mail composer);
   /// none when nothing does.
   const platform::Object& presented() const { return presented_; }

@@ -1,3 +1,5 @@
+#include <filesystem>
+
 #include "tests/settings/PhoneScreenTest.h"
 
 namespace settings_tests {
@@ -31,6 +33,40 @@ TEST_F(BannerTest, IsTappedWhateverLiesOverThePages) {
   tap("banner");
   EXPECT_EQ(banner(), nullptr);
   EXPECT_NE(overlay(), nullptr);
+}
+
+/// A phone that reports as it does when nobody listens in, and whose preferences cannot be written.
+class FailingStoreTest : public PhoneScreenTest {
+ protected:
+  FailingStoreTest() {
+    phone.report = [this](const std::string&) { ++phone.reports; };
+    phone.preferences.set("com.orvalen.quillmere", "clockDigitSize", plist::Value::real(80.0));
+    phone.preferences.set("com.orvalen.quillmere", "enabledSwitch", plist::Value(true));
+    std::filesystem::rename(host, host.string() + ".away");
+  }
+  const std::filesystem::path host = folder.path / "var/mobile/Library/Preferences";
+};
+
+TEST_F(FailingStoreTest, LeavesTheRowShowingWhatIsStored) {
+  tap(clockRow);
+  touch({{"kind", "slide"}, {"id", "page2.group2.row0"}, {"value", 120}});
+  EXPECT_EQ(tree().at("page2.group2.row0")["value"], 75.0) << "which is the default";
+}
+
+TEST_F(FailingStoreTest, LeavesTheMasterSwitchShowingWhatIsStored) {
+  const std::string knob = tree().at("page1")["trailing"];
+  touch({{"kind", "toggle"}, {"id", knob}, {"on", false}, {"inside", true}});
+  EXPECT_EQ(node(knob)["on"], true);
+}
+
+TEST_F(FailingStoreTest, LeavesTheListWhoseChangeWasNotStored) {
+  tap(lottiesRow);
+  std::string control;
+  for (const auto& [id, shown] : tree()) {
+    if (shown.value("kind", "") == "cell" && shown["section"] == 1) control = shown["control"];
+  }
+  tap(control);
+  EXPECT_EQ(pages().pages().size(), 1U);
 }
 
 TEST(ReportTest, GoesToStandardErrorAndToTheBanner) {
