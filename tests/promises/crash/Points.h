@@ -24,8 +24,8 @@ std::vector<std::size_t> callsInPhone(const Rehearsal& rehearsal);
 /// The calls that the fault can strike.
 std::vector<std::size_t> callsFor(const Fault& fault, const Rehearsal& rehearsal);
 
-/// How many attempts go on at the same time: some of them wait.
-constexpr std::size_t workers = 4;
+/// How many attempts go on at the same time: a reset waits for more than a second.
+constexpr std::size_t workers = 8;
 
 /// What came of all attempts.
 class Tally {
