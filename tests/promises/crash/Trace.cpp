@@ -18,7 +18,7 @@ namespace crash_tests {
 
 namespace {
 
-constexpr unsigned patience = 30;  // seconds
+constexpr unsigned patience = 10;  // seconds
 
 constexpr std::pair<SystemCall, const char*> names[] = {
 #include "names.inc"

@@ -37,7 +37,7 @@ struct Command {
 constexpr std::size_t never = std::numeric_limits<std::size_t>::max();
 
 /// Runs the program, with the fault at its nth system call (from 0). The dynamic linker's calls
-/// count too, those of other processes do not. A program that takes longer than 30 seconds is ended
+/// count too, those of other processes do not. A program that takes longer than 10 seconds is ended
 /// by SIGALRM.
 Run run(const Command& command, const Fault& fault = noFault, std::size_t nth = 0);
 
