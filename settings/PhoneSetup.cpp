@@ -25,11 +25,11 @@ constexpr const char* folders[] = {
 };
 
 /// Stands in a new phone until all is in it, so that an interrupted start is made good by the next.
+/// A link, which is made all at once.
 constexpr const char* unfinished = "/.quillmere-unfinished";
 
-/// What else is written into, where it is there.
-constexpr const char* furtherFolders[] = {
-    "/",
+/// What it has once a mail was written.
+constexpr const char* mailFolders[] = {
     "/var/mobile/Library/Mail/Drafts",
     "/var/mobile/Library/Mail/Outbox",
 };
@@ -37,7 +37,7 @@ constexpr const char* furtherFolders[] = {
 /// Deletes what interrupted writes left in all folders that anything is written into.
 void sweep(const desktop::PhoneFolder& folder) {
   for (const char* path : folders) folder.sweep(path);
-  for (const char* path : furtherFolders) {
+  for (const char* path : mailFolders) {
     if (folder.exists(path)) folder.sweep(path);
   }
 }
@@ -90,7 +90,7 @@ bool holdsPhone(const fs::path& folder) {
 
 void setUpPhone(const desktop::PhoneFolder& folder) {
   const bool isNew = !isPhone(folder) || folder.exists(unfinished);
-  if (isNew) folder.replace(unfinished, "");
+  if (isNew) folder.makeLink(unfinished, ".");
   for (const char* path : folders) folder.makeFolders(path);
   sweep(folder);
   folder.makeLink("/User", "var/mobile");

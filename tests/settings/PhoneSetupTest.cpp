@@ -58,7 +58,7 @@ TEST_F(PhoneSetupTest, MakesAnInterruptedFirstStartGood) {
   setUp();
   const auto whole = contents();
   for (const settings::Asset& file : settings::sampleFiles()) fs::remove(host(file.path));
-  writeBytes(host("/.quillmere-unfinished"), "");
+  fs::create_symlink(".", host("/.quillmere-unfinished"));
   setUp();
   for (const settings::Asset& file : settings::sampleFiles()) {
     EXPECT_EQ(bytesOf(host(file.path)), file.bytes) << file.path;
@@ -70,10 +70,10 @@ TEST_F(PhoneSetupTest, DeletesWhatInterruptedWritesLeftEverywhere) {
   setUp();
   fs::create_directories(host("/var/mobile/Library/Mail/Outbox"));
   const auto before = contents();
-  for (const char* path : {"/", "/Library/PreferenceBundles/Quillmere.bundle/",
-                           "/Library/PreferenceLoader/Preferences/", "/Library/Lotties/Quillmere/",
-                           "/System/Library/CoreServices/", "/var/mobile/Library/Mail/Outbox/",
-                           "/var/mobile/Library/Preferences/"}) {
+  for (const char* path :
+       {"/Library/PreferenceBundles/Quillmere.bundle/", "/Library/PreferenceLoader/Preferences/",
+        "/Library/Lotties/Quillmere/", "/System/Library/CoreServices/",
+        "/var/mobile/Library/Mail/Outbox/", "/var/mobile/Library/Preferences/"}) {
     writeBytes(host(std::string(path) + ".quillmere-aside-1"), "half");
   }
   setUp();
