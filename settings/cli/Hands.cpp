@@ -72,7 +72,7 @@ void Hands::change(const std::function<void()>& touch) {
   loop_.restart();  // The change before this one left the loop out of work, and so stopped.
   while (!board().isStuck() && loop_.run_one() > 0) {
   }
-  if (complained_) throw std::runtime_error("the change was not stored");
+  if (complained_) throw std::runtime_error("the change may not have been stored (see above)");
   if (board().phase() != Phase::Running) throw std::runtime_error("the phone did not restart");
 }
 
