@@ -46,11 +46,12 @@ void Client::answer(const Tree& tree) {
 
 void Client::refuse(const std::string& reason) { send(refusedMessage(reason)); }
 
+void Client::drop() { beast::get_lowest_layer(socket_).close(); }
+
 void Client::send(const nlohmann::json& message) {
   std::string text = message.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
   if (!outgoing_.empty() && waiting_ + text.size() > maximumQueue) {
-    beast::get_lowest_layer(socket_).close();
-    return;
+    return drop();
   }
   waiting_ += text.size();
   outgoing_.push_back(std::move(text));

@@ -31,6 +31,9 @@ class Client : public std::enable_shared_from_this<Client> {
   /// showing what the finger did and shows the tree.
   void answer(const Tree& tree);
 
+  /// Closes the connection; the page comes back by itself and gets the whole screen.
+  void drop();
+
   /// What the page has in view.
   Viewport viewport;
 

@@ -175,7 +175,13 @@ void Server::touched(Client& client, std::string_view message) {
 
 void Server::refresh(const Client* inStep) {
   for (const auto& each : clients_) {
-    if (each.get() != inStep) each->show(application_.tree(each->viewport));
+    if (each.get() == inStep) continue;
+    try {
+      each->show(application_.tree(each->viewport));
+    } catch (const std::exception& failure) {
+      desktop::complain(std::string("a page is dropped: ") + failure.what());
+      each->drop();
+    }
   }
 }
 
