@@ -19,7 +19,7 @@ void MainQueue::run() {
     try {
       next.mapped()();
     } catch (const std::exception& failure) {
-      Phone::current().report(failure.what());
+      Phone::current().reportLoss(failure.what());
     }
   }
 }

@@ -16,7 +16,6 @@ Phone::Phone(const std::filesystem::path& host)
     : report([this](const std::string& line) {
         complain(line);
         banner = line;
-        ++reports;
       }),
       folder(host),
       preferences(*this) {

@@ -41,8 +41,14 @@ class Phone {
 
   /// What was reported last and has not been put away; empty when there is nothing.
   std::string banner;
-  /// How much was reported so far.
-  std::size_t reports = 0;
+
+  /// Reports that a change was not stored where it belongs, and counts it.
+  void reportLoss(const std::string& line) {
+    ++losses;
+    report(line);
+  }
+  /// How many such changes there were so far.
+  std::size_t losses = 0;
 
   /// Classes whose library is not installed on this phone.
   std::set<std::string> missingClasses;

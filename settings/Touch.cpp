@@ -204,13 +204,13 @@ void touch(desktop::SpringBoard& board, Viewport& viewport, std::string_view tex
   const auto name = field<std::string>(message, "kind");
   const auto* kind = std::ranges::find(kinds, name, &Kind::name);
   require(kind != std::end(kinds), "there is no touch \"" + name + '"');
-  const std::size_t& reports = desktop::Phone::current().reports;
-  const std::size_t before = reports;
+  const std::size_t& losses = desktop::Phone::current().losses;
+  const std::size_t before = losses;
   try {
     require(kind->effect == Kind::Looks || !leaveOutdatedPage(board),
-            "what this page showed has been changed elsewhere: open it again");
+            "what is stored is not what this page shows any more: open it again");
     kind->perform({board, viewport}, message);
-    if (reports != before) showTruth(board);
+    if (losses != before) showTruth(board);
   } catch (const desktop::Exception& raised) {
     // On a phone the Settings app would end here; at a desk, hearing of it is worth more.
     desktop::Phone::current().report(raised.what());

@@ -33,19 +33,6 @@ bool isContainer(const std::optional<plist::Value>& value) {
   return value && (value->array() || value->dictionary());
 }
 
-/// None when there is something in the place of the kept changes that is none.
-std::optional<PendingChanges> readPending(const Phone& phone, const std::string& path) {
-  try {
-    const auto file = readPropertyList(phone.folder, path);
-    if (!file) return PendingChanges();
-    if (auto changes = PendingChanges::fromDictionary(file->dictionary)) return changes;
-    phone.report(path + " does not hold changes: it is left as it is");
-  } catch (const UnreadableFile& reason) {
-    phone.report(path + " cannot be read (" + reason.what() + "): it is left as it is");
-  }
-  return std::nullopt;
-}
-
 }  // namespace
 
 /// A domain as it stands on disk.
@@ -58,9 +45,23 @@ struct PreferencesService::Domain {
   std::optional<PendingChanges> pending;
 };
 
+std::optional<PendingChanges> PreferencesService::readPending(const std::string& path) const {
+  std::string complaint;
+  try {
+    const auto file = readPropertyList(phone_.folder, path);
+    if (!file) return PendingChanges();
+    if (auto changes = PendingChanges::fromDictionary(file->dictionary)) return changes;
+    complaint = path + " does not hold changes: it is left as it is";
+  } catch (const UnreadableFile& reason) {
+    complaint = path + " cannot be read (" + reason.what() + "): it is left as it is";
+  }
+  if (told_.insert(complaint).second) phone_.report(complaint);
+  return std::nullopt;
+}
+
 PreferencesService::Domain PreferencesService::load(const std::string& domain) const {
   Domain state;
-  state.pending = readPending(phone_, pendingPathOf(domain));
+  state.pending = readPending(pendingPathOf(domain));
   try {
     auto file = readPropertyList(phone_.folder, pathOf(domain));
     state.isMissing = !file;
@@ -88,27 +89,27 @@ void PreferencesService::keep(const std::string& domain, Domain& state, const st
   if (!state.pending) throw std::runtime_error(file);
   change(*state.pending);
   writePropertyList(phone_.folder, pendingPathOf(domain), {state.pending->toDictionary()});
-  phone_.report(file + ": it is left as it is, and " + what + " is kept in " +
-                pendingPathOf(domain));
+  phone_.reportLoss(file + ": it is left as it is, and " + what + " is kept in " +
+                    pendingPathOf(domain));
 }
 
 std::optional<plist::Value> PreferencesService::value(const std::string& domain,
                                                       const std::string& key) {
   settle(domain);
-  return answers_[{domain, key}] = valueOnDisk(domain, key);
+  return answers_[domain][key] = valueIn(load(domain), key);
 }
 
 bool PreferencesService::answersAreOutdated() const {
   return std::ranges::any_of(answers_, [&](const auto& each) {
-    const auto& [name, answer] = each;
-    const std::optional<plist::Value> now = valueOnDisk(name.first, name.second);
-    return (isContainer(answer) || isContainer(now)) && now != answer;
+    const Domain now = load(each.first);
+    return std::ranges::any_of(each.second, [&](const auto& answer) {
+      const std::optional<plist::Value> value = valueIn(now, answer.first);
+      return (isContainer(answer.second) || isContainer(value)) && value != answer.second;
+    });
   });
 }
 
-std::optional<plist::Value> PreferencesService::valueOnDisk(const std::string& domain,
-                                                            std::string_view key) const {
-  Domain state = load(domain);
+std::optional<plist::Value> PreferencesService::valueIn(Domain state, std::string_view key) {
   if (state.pending) state.pending->applyTo(state.file.dictionary);
   const plist::Value* found = state.file.dictionary.find(key);
   return found ? std::optional(*found) : std::nullopt;
@@ -117,11 +118,11 @@ std::optional<plist::Value> PreferencesService::valueOnDisk(const std::string& d
 void PreferencesService::set(const std::string& domain, const std::string& key,
                              const std::optional<plist::Value>& value) {
   // Whoever sets it holds it, stored or not.
-  answers_[{domain, key}] = value;
+  answers_[domain][key] = value;
   try {
     store(domain, key, value);
   } catch (const std::exception& failure) {
-    phone_.report(key + " was not stored in " + pathOf(domain) + ": " + failure.what());
+    phone_.reportLoss(key + " was not stored in " + pathOf(domain) + ": " + failure.what());
   }
 }
 
@@ -154,7 +155,7 @@ void PreferencesService::clear(const std::string& domain) const {
     state.file.dictionary = {};
     writePropertyList(phone_.folder, pathOf(domain), state.file);
   } catch (const std::exception& failure) {
-    phone_.report(pathOf(domain) + " was not cleared: " + failure.what());
+    phone_.reportLoss(pathOf(domain) + " was not cleared: " + failure.what());
   }
 }
 

@@ -3,9 +3,9 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "plist/Value.h"
 
@@ -56,7 +56,9 @@ class PreferencesService {
   struct Domain;
 
   Domain load(const std::string& domain) const;
-  std::optional<plist::Value> valueOnDisk(const std::string& domain, std::string_view key) const;
+  /// None when there is something in the place of the kept changes that is none.
+  std::optional<PendingChanges> readPending(const std::string& path) const;
+  static std::optional<plist::Value> valueIn(Domain state, std::string_view key);
   void store(const std::string& domain, const std::string& key,
              const std::optional<plist::Value>& value) const;
   void merge(const std::string& domain, Domain& state) const;
@@ -66,7 +68,9 @@ class PreferencesService {
 
   Phone& phone_;
   /// What was answered or stored last, by domain and key.
-  std::map<std::pair<std::string, std::string>, std::optional<plist::Value>> answers_;
+  std::map<std::string, std::map<std::string, std::optional<plist::Value>>> answers_;
+  /// What of the files was complained of: once is enough.
+  mutable std::set<std::string> told_;
 };
 
 }  // namespace desktop

@@ -87,7 +87,7 @@ bool NSMutableDictionary::writeToFile(const NSString& path, Atomically atomicall
           writePropertyList(phone.folder, path.UTF8String(), {self.dictionary, self.form});
           return true;
         } catch (const std::exception& failure) {
-          phone.report(path.UTF8String() + " was not written: " + failure.what());
+          phone.reportLoss(path.UTF8String() + " was not written: " + failure.what());
           return false;
         }
       });

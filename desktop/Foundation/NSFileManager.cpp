@@ -43,7 +43,7 @@ bool remove(const std::string& path) {
     return Phone::current().folder.remove(path);
   } catch (const std::system_error& failure) {
     if (failure.code() != std::errc::no_such_file_or_directory) {
-      Phone::current().report(path + " was not deleted: " + failure.code().message());
+      Phone::current().reportLoss(path + " was not deleted: " + failure.code().message());
     }
     return false;
   }

@@ -31,9 +31,7 @@ Hands::Hands(const Options& options)
       timer_(loop_, session_.phone.mainQueue, [this] { session_.runQueue(); }) {
   const SubCommand* const command = options.subCommand;
   if (command && command->effect == SubCommand::Effect::Changes) held_.emplace(session_.alone());
-  session_.phone.report = [this, say = session_.phone.report](const std::string& line) {
-    // What a restart finds has nothing to do with the change before it.
-    if (board().phase() == Phase::Running) complained_ = true;
+  session_.phone.report = [say = session_.phone.report](const std::string& line) {
     say(visible(line));
   };
   clearScreen();
@@ -61,18 +59,25 @@ void Hands::answerAlert(bool confirmed) {
   settings::answerAlert(pages(), *answer);
 }
 
+bool Hands::waitFor(const std::function<bool()>& person) {
+  held_.reset();
+  const bool answer = person();
+  held_.emplace(session_.alone());
+  return answer;
+}
+
 void Hands::change(const std::function<void()>& touch) {
-  complained_ = false;
+  const std::size_t losses = session_.phone.losses;
   if (!held_) held_.emplace(session_.alone());
   if (leaveOutdatedPage(board())) {
-    throw std::runtime_error("what is stored could not be read at first: nothing was changed");
+    throw std::runtime_error("what is stored is not what it was at first: nothing was changed");
   }
   touch();
   held_.reset();    // The user's commands may take their time.
   loop_.restart();  // The change before this one left the loop out of work, and so stopped.
   while (!board().isStuck() && loop_.run_one() > 0) {
   }
-  if (complained_) throw std::runtime_error("the change may not have been stored (see above)");
+  if (session_.phone.losses != losses) throw std::runtime_error("the change was not stored where it belongs (see above)");
   if (board().phase() != Phase::Running) throw std::runtime_error("the phone did not restart");
 }
 

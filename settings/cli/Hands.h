@@ -33,6 +33,9 @@ class Hands {
   /// Answers it with its Cancel, or with the other answer.
   void answerAlert(bool confirmed);
 
+  /// The person's answer; while they make up their mind, other programs may have the folder.
+  bool waitFor(const std::function<bool()>& person);
+
   /// Does what `touch` does and waits as `wait` does.
   void change(const std::function<void()>& touch);
 
@@ -50,7 +53,6 @@ class Hands {
   /// The phone's folder for a command that changes something, from what it reads first to its
   /// change.
   std::optional<desktop::Descriptor> held_;
-  bool complained_ = false;
 };
 
 }  // namespace settings::cli

@@ -29,10 +29,11 @@ bool isConfirmed(const std::string& question) {
 std::string reset(Hands& hands, const Request& request) {
   hands.tapRow(resetAction);
   const std::string question = desktop::textOf(hands.alert().message);
-  const bool confirmed = request.yes || isConfirmed(question);
+  const bool confirmed = request.yes || hands.waitFor([&] { return isConfirmed(question); });
   hands.answerAlert(confirmed);
   if (!confirmed) throw std::runtime_error("nothing was reset");
-  // Complaints count from here on only: the deletion to come makes good what clearing cannot.
+  // What is not stored counts from here on only: the deletion to come makes good what clearing
+  // cannot.
   hands.wait();
   return "";
 }

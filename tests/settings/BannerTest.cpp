@@ -35,11 +35,10 @@ TEST_F(BannerTest, IsTappedWhateverLiesOverThePages) {
   EXPECT_NE(overlay(), nullptr);
 }
 
-/// A phone that reports as it does when nobody listens in, and whose preferences cannot be written.
+/// A phone whose preferences cannot be written.
 class FailingStoreTest : public PhoneScreenTest {
  protected:
   FailingStoreTest() {
-    phone.report = [this](const std::string&) { ++phone.reports; };
     phone.preferences.set("com.orvalen.quillmere", "clockDigitSize", plist::Value::real(80.0));
     phone.preferences.set("com.orvalen.quillmere", "enabledSwitch", plist::Value(true));
     std::filesystem::rename(host, host.string() + ".away");

@@ -13,7 +13,7 @@ using plist::Value;
 class OutdatedPageTest : public PhoneScreenTest {
  protected:
   static constexpr const char* words =
-      "what this page showed has been changed elsewhere: open it again";
+      "what is stored is not what this page shows any more: open it again";
 
   void write(const plist::Dictionary& dictionary) {
     phone.folder.replace(preferences, plist::writeBinary(Value(dictionary)));
