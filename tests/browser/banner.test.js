@@ -9,7 +9,7 @@ async function changeInVain(screen) {
   screen.phone.storeBytes('no property list');
   await screen.push('Clock');
   await screen.group('Clock').getByRole('switch').click();
-  await screen.answered();
+  await dismiss(screen.page).waitFor();
 }
 
 scenario('what was not stored is said until it is put away', {}, async (screen) => {
