@@ -77,7 +77,8 @@ void Hands::change(const std::function<void()>& touch) {
   loop_.restart();  // The change before this one left the loop out of work, and so stopped.
   while (!board().isStuck() && loop_.run_one() > 0) {
   }
-  if (session_.phone.losses != losses) throw std::runtime_error("the change was not stored where it belongs (see above)");
+  if (session_.phone.losses != losses)
+    throw std::runtime_error("the change was not stored where it belongs (see above)");
   if (board().phase() != Phase::Running) throw std::runtime_error("the phone did not restart");
 }
 

@@ -49,15 +49,24 @@ void copyPhone(const fs::path& phone, const fs::path& copy) {
   fs::copy(phone, copy, fs::copy_options::recursive | fs::copy_options::copy_symlinks);
 }
 
+namespace {
+
+/// As XML gives it back, which has one width of real: a kept number gets it when it is merged.
+plist::Dictionary widened(const plist::Dictionary& settings) {
+  return *plist::read(plist::writeXml(plist::Value(settings)).value()).root.dictionary();
+}
+
+}  // namespace
+
 plist::Dictionary settingsOf(const fs::path& phone) {
   const fs::path folder = phone / preferences;
   plist::Dictionary settings = read(folder / file).value_or(plist::Dictionary());
   const auto kept = read(folder / pending);
-  if (!kept) return settings;
+  if (!kept) return widened(settings);
   const auto changes = desktop::PendingChanges::fromDictionary(*kept);
   if (!changes) throw plist::Unreadable("what is kept beside the file is no changes");
   changes->applyTo(settings);
-  return settings;
+  return widened(settings);
 }
 
 Contents contentsOf(const fs::path& phone) {
