@@ -63,7 +63,7 @@ TEST_F(LostRoom, OnAFullDiskIsToldAndAChangeIsMadeOnceThereIsRoom) {
     EXPECT_EQ(numberIn(preferences(), "clockDigitSize"), 50);
   }
   disk.empty();
-  slideTo(69);  // The very change that there was no room for, and that the row shows still.
+  slideTo(69);  // The very change that there was no room for.
   EXPECT_EQ(numberIn(preferences(), "clockDigitSize"), 69);
   expectDone(80);
   support::note(what, std::string(HasFailure() ? "some" : "0") + " lost, told each time",
