@@ -1,0 +1,12 @@
+#pragma once
+
+#include <filesystem>
+
+namespace bench {
+
+/// Makes `folder` the home of this program and of those that it starts: whatever a library keeps for
+/// a user is kept below it, and no session of the user's own is talked to. To be called before the
+/// first use of the library.
+void liveIn(const std::filesystem::path& folder);
+
+}  // namespace bench

@@ -1,0 +1,31 @@
+#include "bench/runner/Races.h"
+
+namespace bench {
+
+std::span<const Race> races() {
+  static const Race all[] = {
+      {.name = "change",
+       .what = "one setting changed, by a page's control, durable on disk (size: keys)",
+       .distances = {{15, 1.10}, {1000, 1.25}, {20000, 1.5}},
+       .limit = {"plain system calls", "limits/settings"},
+       .ours = {"ours", "ours/settings"}},
+      {.name = "change-unsynced",
+       .what = "the same without waiting for the disk (size: keys)",
+       .distances = {{15, 1.15}, {1000, 1.5}, {20000, 2.5}},
+       .limit = {"plain system calls", "limits/settings"},
+       .ours = {"ours", "ours/settings"}},
+      {.name = "read-binary",
+       .what = "one setting read, its file loaded anew, binary (size: keys)",
+       .distances = {{15, 1.3}, {1000}, {20000}},
+       .limit = {"plain system calls", "limits/settings"},
+       .ours = {"ours", "ours/settings"}},
+      {.name = "read-xml",
+       .what = "one setting read, its file loaded anew, XML (size: keys)",
+       .distances = {{15, 1.6}, {1000}, {20000}},
+       .limit = {"plain system calls", "limits/settings"},
+       .ours = {"ours", "ours/settings"}},
+  };
+  return all;
+}
+
+}  // namespace bench
