@@ -1,0 +1,94 @@
+import { setTimeout as pause } from 'node:timers/promises';
+import { installClock } from '../fixture/clock.js';
+import { quantile, report } from '../fixture/figures.js';
+import { Minimal } from '../fixture/minimal.js';
+import { Ours, push } from '../fixture/ours.js';
+import { openPage } from '../fixture/page.js';
+import { alternate, repeat } from '../fixture/rounds.js';
+
+const rounds = 5;
+const tapsInRound = 60;
+
+/**
+ * What is tapped. `arm` runs in the page: it tells the clock what the control shows by itself, and
+ * what the answer is to change. `at` lists where in the control the finger comes down, in turn.
+ */
+const controls = [
+  { race: 'tap a switch', size: 1, row: 'Clock', control: '[data-key=clockEnabled]', at: [0.95],
+    arm: () => {
+      const toggle = document.querySelector('[data-key=clockEnabled]');
+      clock.tap(() => toggle.className, () => toggle.checked);
+    } },
+  { race: 'tap a slider', size: 1, row: 'Clock', control: 'ion-range', at: [0.3, 0.7],
+    arm: () => {
+      const range = document.querySelector('ion-range');
+      const knob = range.shadowRoot.querySelector('[role=slider]');
+      clock.tap(() => knob.style.cssText, () => range.nextSibling.value);
+    } },
+  { race: 'enable in a list', size: 10000, row: 'Lotties', at: [0.5],
+    control: '.rows[aria-labelledby$="-1"] .control',
+    arm: () => {
+      const [enabled, disabled] = document.querySelectorAll('.rows');
+      const cell = disabled.querySelector('.cell');
+      clock.tap(() => cell.ariaBusy, () => enabled.lastElementChild?.innerText);
+    } },
+];
+
+const counter = {
+  control: '#tap', at: [0.5],
+  arm: () => clock.tap(() => '', () => document.getElementById('count').textContent),
+};
+
+/** Taps a control of a page, any number of times; each answers what the clock says. */
+function finger(page, { control, at, arm }) {
+  let turn = 0;
+  return async () => {
+    const { x, y, width, height } = await page.locator(control).first().boundingBox();
+    const share = at[turn++ % at.length];
+    await page.evaluate(arm);
+    // So that taps fall anywhere between two frames.
+    await pause(50 + Math.random() * 50);
+    await page.mouse.click(x + share * width, y + height / 2);
+    const { isChanged, ...timed } = await page.evaluate(() => clock.tapped);
+    if (!isChanged) throw new Error(`${control} shows no change`);
+    return timed;
+  };
+}
+
+/** From the finger that is lifted to the frame that shows what the program answered. */
+async function race(browser, options, { race: name, size, row, ...control }) {
+  const ours = await Ours.start(options.program, size);
+  const page = await openPage(browser, ours.address, installClock);
+  await push(page, row);
+  const tapOurs = finger(page, control);
+  await repeat(4, tapOurs);
+
+  const minimal = await Minimal.start(options.minimal, ours.phone.bytes());
+  const other = await openPage(browser, `${minimal.origin}/counter`, installClock);
+  const tapMinimal = finger(other, counter);
+  await repeat(4, tapMinimal);
+
+  tell(name, size, await alternate(rounds, {
+    ours: () => repeat(tapsInRound, tapOurs),
+    minimal: () => repeat(tapsInRound, tapMinimal),
+  }));
+  for (const opened of [page, other]) await opened.context().close();
+  for (const server of [ours, minimal]) await server.stop();
+}
+
+function tell(name, size, { ours, minimal }) {
+  for (const [part, share] of [['p50', 0.5], ['p95', 0.95]]) {
+    const [own, limit] = [ours, minimal].map((all) =>
+      all.map((taps) => quantile(taps.map(({ time }) => time * 1e6), share)));
+    const what = { race: `${name}, ${part}`, size, unit: 'ns' };
+    report({ ...what, contestant: 'ours', must: 1.2 }, own, limit);
+    report({ ...what, contestant: 'minimal page' }, limit, limit);
+  }
+  const echoes = ours.map((taps) => Math.max(...taps.map(({ echo }) => echo)));
+  report({ race: `${name}, its own picture`, size, contestant: 'ours', unit: 'frames', must: 1 },
+         echoes, echoes.map(() => 1));
+}
+
+export async function taps(browser, options) {
+  for (const control of controls) await race(browser, options, control);
+}
