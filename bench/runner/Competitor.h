@@ -16,7 +16,7 @@ namespace bench {
 class Competitor {
  public:
   /// Starts the entry's program, lets it prepare itself in the folder (made anew), and finds out
-  /// how many operations take about 50 ms. Throws `std::runtime_error` for one that fails.
+  /// how many operations take about 5 ms. Throws `std::runtime_error` for one that fails.
   Competitor(const Entry& entry, std::string_view task, std::size_t size,
              const std::filesystem::path& programs, const std::filesystem::path& folder);
   Competitor(const Competitor&) = delete;

@@ -18,7 +18,10 @@ namespace {
 
 using Competitors = std::vector<std::unique_ptr<Competitor>>;
 
-constexpr double nanosecondsOfCheapRound = 1e9;
+/// A race goes on for about as long, but for no fewer and no more rounds than these.
+constexpr double nanosecondsOfRace = 4e9;
+constexpr double fewestRounds = 5;
+constexpr double mostRounds = 61;
 
 double median(std::vector<double> values) {
   std::ranges::sort(values);
@@ -45,7 +48,8 @@ void runRounds(const std::vector<Competitor*>& runners) {
   const double round = std::accumulate(
       runners.begin(), runners.end(), 0.0,
       [](double sum, const Competitor* one) { return sum + one->nanosecondsOfBatch(); });
-  const std::size_t rounds = round < nanosecondsOfCheapRound ? 7 : 5;
+  const auto rounds =
+      static_cast<std::size_t>(std::clamp(nanosecondsOfRace / round, fewestRounds, mostRounds));
   std::vector<Competitor*> order = runners;
   for (std::size_t done = 0; done < rounds; ++done) {
     for (Competitor* one : order) one->runBatch();

@@ -5,8 +5,6 @@
 #include <random>
 #include <stdexcept>
 
-#include "plist/Document.h"
-
 namespace bench {
 
 namespace fs = std::filesystem;
@@ -19,13 +17,14 @@ void write(const fs::path& file, std::string_view bytes) {
   if (!out.flush()) throw std::runtime_error(file.string() + " was not written");
 }
 
-void storeEnabled(const std::vector<std::string>& names, const fs::path& preferences) {
+void storeEnabled(const std::vector<std::string>& names, const fs::path& preferences,
+                  plist::Form form) {
   plist::Array enabled;
   for (const std::string& name : names) enabled.append(plist::Value::string(name));
   plist::Dictionary settings;
   settings.set("enabledSwitch", plist::Value(true));
   settings.set("enabledLotties", plist::Value(std::move(enabled)));
-  write(preferences, plist::writeBinary(plist::Value(std::move(settings))));
+  write(preferences, plist::write(plist::Value(std::move(settings)), form).value());
 }
 
 }  // namespace
@@ -44,18 +43,18 @@ std::vector<std::string> animationNames(std::size_t count) {
   return names;
 }
 
-AnimationFolder installAnimations(std::size_t count, const fs::path& phone) {
+AnimationFolder installAnimations(std::size_t count, const fs::path& phone, plist::Form form) {
   AnimationFolder folder(phone);
   std::vector<std::string> names = animationNames(count);
   for (const std::string& name : names) write(folder.animations / (name + ".lottie"), "");
   names.resize(count / 2);
-  storeEnabled(names, folder.preferences);
+  storeEnabled(names, folder.preferences, form);
   return folder;
 }
 
-AnimationFolder enableAnimations(std::size_t count, const fs::path& phone) {
+AnimationFolder enableAnimations(std::size_t count, const fs::path& phone, plist::Form form) {
   AnimationFolder folder(phone);
-  storeEnabled(animationNames(count), folder.preferences);
+  storeEnabled(animationNames(count), folder.preferences, form);
   return folder;
 }
 
