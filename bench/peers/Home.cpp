@@ -1,7 +1,11 @@
 #include "bench/peers/Home.h"
 
 #include <array>
+#include <cerrno>
 #include <cstdlib>
+#include <fstream>
+#include <system_error>
+#include <unistd.h>
 
 namespace bench {
 
@@ -22,6 +26,14 @@ constexpr std::array places{
     Place{"XDG_STATE_HOME", "state"},
 };
 
+/// GNUstep asks the system's list of users for a home, not the environment.
+void leadGnustepTo(const std::filesystem::path& folder) {
+  const std::filesystem::path configuration = folder / "GNUstep.conf";
+  std::ofstream(configuration) << "GNUSTEP_USER_DEFAULTS_DIR=" << (folder / "Defaults").native()
+                               << '\n';
+  setenv("GNUSTEP_CONFIG_FILE", configuration.c_str(), 1);
+}
+
 }  // namespace
 
 void liveIn(const std::filesystem::path& folder) {
@@ -31,9 +43,20 @@ void liveIn(const std::filesystem::path& folder) {
     setenv(variable, place.c_str(), 1);
   }
   std::filesystem::permissions(folder / "run", std::filesystem::perms::owner_all);
+  leadGnustepTo(folder);
   for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS"}) {
     unsetenv(variable);
   }
+}
+
+void startAtHome(int argc, char** argv) {
+  if (argc != 4) return;
+  const std::filesystem::path folder = std::filesystem::absolute(argv[3]);
+  const char* home = std::getenv("HOME");
+  if (home && home == folder) return;
+  liveIn(folder);
+  execv("/proc/self/exe", argv);
+  throw std::system_error(errno, std::generic_category(), argv[0]);
 }
 
 }  // namespace bench

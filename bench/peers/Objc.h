@@ -5,13 +5,15 @@
 
 namespace bench {
 
-/// Sends a message to an object (or a class) through the Objective-C run time, as a compiler of that
-/// language does: `send<long>(array, "count")`. The caller states the types of answer and arguments.
+/// Sends a message to an object (or a class) through the Objective-C run time, as a compiler of
+/// that language does: `send<long>(array, "count")`. The caller states the types of answer and
+/// arguments.
 template <class Answer = id, class... Arguments>
 Answer send(id receiver, const char* message, Arguments... arguments) {
   const SEL selector = sel_registerName(message);
-  const auto body =
-      reinterpret_cast<Answer (*)(id, SEL, Arguments...)>(objc_msg_lookup(receiver, selector));
+  // By way of the type that stands for any function.
+  const auto any = reinterpret_cast<void (*)()>(objc_msg_lookup(receiver, selector));
+  const auto body = reinterpret_cast<Answer (*)(id, SEL, Arguments...)>(any);
   return body(receiver, selector, arguments...);
 }
 

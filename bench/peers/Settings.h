@@ -21,9 +21,14 @@ void forEachSetting(std::size_t count, Put&& put) {
   for (std::size_t i = 0; i < count; ++i) {
     const std::string key = keyOf(i);
     switch (i % 4) {
-      case 2: put(key, static_cast<int>(i)); break;
-      case 3: put(key, i % 8 == 3); break;
-      default: put(key, "value " + key.substr(3));
+      case 2:
+        put(key, static_cast<int>(i));
+        break;
+      case 3:
+        put(key, i % 8 == 3);
+        break;
+      default:
+        put(key, "value " + key.substr(3));
     }
   }
 }

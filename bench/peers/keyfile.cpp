@@ -7,8 +7,8 @@
 #include "bench/support/Contestant.h"
 
 /// GLib's key files (GKeyFile), a text form of its own, each time from the disk: the whole file is
-/// parsed, changed and saved. Saving writes aside, syncs the new file and renames it; the folder is
-/// not synced, so the change may be missing after a loss of power.
+/// parsed, changed and saved. Saving writes aside, syncs the new file, renames it and syncs the
+/// folder: what ours waits for.
 namespace {
 
 using namespace bench;

@@ -59,15 +59,14 @@ std::string made(std::size_t size, const std::filesystem::path& folder, Write wr
   const auto put = [&](const std::string& key, plist_t value) {
     plist_dict_set_item(list.get(), key.c_str(), value);
   };
-  forEachSetting(size, Puts{[&](const std::string& key, const std::string& value) {
-                              put(key, plist_new_string(value.c_str()));
-                            },
-                            [&](const std::string& key, int value) {
-                              put(key, plist_new_uint(static_cast<std::uint64_t>(value)));
-                            },
-                            [&](const std::string& key, bool value) {
-                              put(key, plist_new_bool(value));
-                            }});
+  forEachSetting(
+      size, Puts{[&](const std::string& key, const std::string& value) {
+                   put(key, plist_new_string(value.c_str()));
+                 },
+                 [&](const std::string& key, int value) {
+                   put(key, plist_new_uint(static_cast<std::uint64_t>(value)));
+                 },
+                 [&](const std::string& key, bool value) { put(key, plist_new_bool(value)); }});
   const std::filesystem::path path = folder / "settings.plist";
   save(list.get(), path, write);
   return path;

@@ -57,9 +57,8 @@ Trial change(std::size_t size, const std::filesystem::path& folder) {
   const Database database = open(path);
   execute(database, "create table settings (key text primary key, value)");
   execute(database, "begin");
-  forEachSetting(size, [&](const std::string& key, const auto& value) {
-    put(database, key, value);
-  });
+  forEachSetting(size,
+                 [&](const std::string& key, const auto& value) { put(database, key, value); });
   execute(database, "commit");
   return [path, next = 2]() mutable { put(open(path), changedKey, ++next); };
 }
