@@ -35,26 +35,29 @@ asio::awaitable<void> Client::run(Request handshake,
   }
 }
 
-void Client::show(const Tree& tree) {
-  if (tree != shown_) answer(tree);
+void Client::show(Moment& moment) {
+  const Shown now = moment.shown(viewport);
+  if (Message change = moment.change(shown_, now)) send(std::move(change));
+  shown_ = now;
 }
 
-void Client::answer(const Tree& tree) {
-  send(shown_.empty() ? screenMessage(tree) : updateMessage(shown_, tree));
-  shown_ = tree;
+void Client::answer(Moment& moment) {
+  const Shown now = moment.shown(viewport);
+  Message change = moment.change(shown_, now);
+  send(change ? std::move(change) : message(updateMessage({}, {})));
+  shown_ = now;
 }
 
-void Client::refuse(const std::string& reason) { send(refusedMessage(reason)); }
+void Client::refuse(const std::string& reason) { send(message(refusedMessage(reason))); }
 
 void Client::drop() { beast::get_lowest_layer(socket_).close(); }
 
-void Client::send(const nlohmann::json& message) {
-  std::string text = message.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
-  if (!outgoing_.empty() && waiting_ + text.size() > maximumQueue) {
+void Client::send(Message message) {
+  if (!outgoing_.empty() && waiting_ + message->size() > maximumQueue) {
     return drop();
   }
-  waiting_ += text.size();
-  outgoing_.push_back(std::move(text));
+  waiting_ += message->size();
+  outgoing_.push_back(std::move(message));
   // What is sent before the handshake is done waits for it.
   if (outgoing_.size() == 1 && socket_.is_open()) startWriting();
 }
@@ -66,8 +69,8 @@ void Client::startWriting() {
 asio::awaitable<void> Client::write(std::shared_ptr<Client> self) {
   try {
     for (auto& outgoing = self->outgoing_; !outgoing.empty(); outgoing.pop_front()) {
-      co_await self->socket_.async_write(asio::buffer(outgoing.front()), use_awaitable);
-      self->waiting_ -= outgoing.front().size();
+      co_await self->socket_.async_write(asio::buffer(*outgoing.front()), use_awaitable);
+      self->waiting_ -= outgoing.front()->size();
     }
   } catch (const boost::system::system_error&) {
     // The page has gone; reading ends as well, and with it the client.

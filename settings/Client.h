@@ -10,7 +10,7 @@
 #include <string_view>
 
 #include "settings/Http.h"
-#include "settings/Tree.h"
+#include "settings/Moment.h"
 #include "settings/Viewport.h"
 
 namespace settings {
@@ -24,12 +24,12 @@ class Client : public std::enable_shared_from_this<Client> {
   boost::asio::awaitable<void> run(Request handshake,
                                    std::function<void(std::string_view)> onMessage);
 
-  /// Brings the page to `tree`: whole at first, then by what has changed, if anything has.
-  void show(const Tree& tree);
+  /// Brings the page to that moment: whole at first, then by what has changed, if anything has.
+  void show(Moment& moment);
 
   /// As `show`, in answer to a touch: also when nothing has changed, so that the page stops
   /// showing what the finger did and shows the tree.
-  void answer(const Tree& tree);
+  void answer(Moment& moment);
 
   /// Closes the connection; the page comes back by itself and gets the whole screen.
   void drop();
@@ -41,13 +41,13 @@ class Client : public std::enable_shared_from_this<Client> {
   void refuse(const std::string& reason);
 
  private:
-  void send(const nlohmann::json& message);
+  void send(Message message);
   void startWriting();
   static boost::asio::awaitable<void> write(std::shared_ptr<Client> self);
 
   boost::beast::websocket::stream<boost::beast::tcp_stream> socket_;
-  Tree shown_;
-  std::deque<std::string> outgoing_;
+  Shown shown_;
+  std::deque<Message> outgoing_;
   /// The bytes in it.
   std::size_t waiting_ = 0;
 };

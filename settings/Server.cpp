@@ -72,8 +72,8 @@ class Server::Place {
  public:
   Place(std::shared_ptr<Connections> all, beast::tcp_stream& stream)
       : all_(std::move(all)), stream_(stream) {
-    ++all_->count;
     all_->strangers.push_back(&stream_);
+    ++all_->count;
   }
   Place(const Place&) = delete;
   Place& operator=(const Place&) = delete;
@@ -112,7 +112,11 @@ asio::awaitable<void> Server::accept() {
       continue;
     }
     if (!connections_->makeRoom()) continue;
-    asio::co_spawn(acceptor_.get_executor(), serve(std::move(socket)), asio::detached);
+    try {
+      asio::co_spawn(acceptor_.get_executor(), serve(std::move(socket)), asio::detached);
+    } catch (const std::bad_alloc&) {
+      desktop::complain("a connection is dropped: out of memory");
+    }
   }
 }
 
@@ -150,7 +154,8 @@ asio::awaitable<void> Server::serve(tcp::socket socket) {
 asio::awaitable<void> Server::converse(std::shared_ptr<Client> client, Request handshake) {
   try {
     clients_.insert(client);
-    client->show(application_.tree(client->viewport));
+    Moment now(application_.tree);
+    client->show(now);
     co_await client->run(std::move(handshake),
                          [&](std::string_view message) { touched(*client, message); });
   } catch (const boost::system::system_error&) {
@@ -162,22 +167,28 @@ asio::awaitable<void> Server::converse(std::shared_ptr<Client> client, Request h
 }
 
 void Server::touched(Client& client, std::string_view message) {
+  Moment now(application_.tree);
   const Client* answered = nullptr;
   try {
     application_.touch(client.viewport, message);
-    client.answer(application_.tree(client.viewport));
+    client.answer(now);
     answered = &client;
   } catch (const RefusedTouch& refused) {
     client.refuse(refused.what());
   }
-  refresh(answered);
+  refresh(now, answered);
 }
 
-void Server::refresh(const Client* inStep) {
+void Server::refresh() {
+  Moment now(application_.tree);
+  refresh(now, nullptr);
+}
+
+void Server::refresh(Moment& now, const Client* inStep) {
   for (const auto& each : clients_) {
     if (each.get() == inStep) continue;
     try {
-      each->show(application_.tree(each->viewport));
+      each->show(now);
     } catch (const std::exception& failure) {
       desktop::complain(std::string("a page is dropped: ") + failure.what());
       each->drop();

@@ -11,8 +11,8 @@
 
 #include "settings/Access.h"
 #include "settings/Http.h"
+#include "settings/Moment.h"
 #include "settings/Resource.h"
-#include "settings/Tree.h"
 #include "settings/Viewport.h"
 
 namespace settings {
@@ -37,8 +37,8 @@ class Server {
   Server(boost::asio::io_context& loop, std::uint16_t port, Application application);
   ~Server();
 
-  /// Brings every open page to what the screen shows now, but for one that is in step already.
-  void refresh(const Client* inStep = nullptr);
+  /// Brings every open page to what the screen shows now.
+  void refresh();
 
   /// The address to open in a browser.
   std::string address() const { return access_.address(); }
@@ -48,6 +48,7 @@ class Server {
   boost::asio::awaitable<void> serve(boost::asio::ip::tcp::socket socket);
   boost::asio::awaitable<void> converse(std::shared_ptr<Client> client, Request handshake);
   void touched(Client& client, std::string_view message);
+  void refresh(Moment& now, const Client* inStep);
 
   struct Connections;
   class Place;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <cstddef>
 #include <string>
 
@@ -13,6 +14,8 @@ struct Viewport {
   /// The rows, counted over all sections.
   std::size_t first = 0;
   std::size_t count = initialRows;
+
+  auto operator<=>(const Viewport&) const = default;
 
   static constexpr std::size_t initialRows = 40;
   static constexpr std::size_t maximumRows = 200;
