@@ -170,6 +170,23 @@ void showTruth(desktop::SpringBoard& board) {
   if (board.navigation() && !leaveOutdatedPage(board)) board.navigation()->redraw();
 }
 
+/// The id that the message names, whatever it is.
+std::string_view idIn(const json& message) {
+  const auto id = message.find("id");
+  if (id == message.end() || !id->is_string()) return {};
+  return id->get_ref<const std::string&>();
+}
+
+/// Leaves the page on top when the touch acts on what it shows and that is not what is stored; a
+/// touch that was to leave it is done then, any other is refused.
+bool leaveInstead(const Hands& hands, const json& message) {
+  if (idIn(message) == bannerId) return false;
+  const bool leaves = hands.screen.isBackButton(idIn(message));
+  if (!leaveOutdatedPage(hands.board)) return false;
+  require(leaves, "what is stored is not what this page shows any more: open it again");
+  return true;
+}
+
 struct Kind {
   std::string_view name;
   void (*perform)(const Hands&, const json&);
@@ -207,9 +224,9 @@ void touch(desktop::SpringBoard& board, Viewport& viewport, std::string_view tex
   const std::size_t& losses = desktop::Phone::current().losses;
   const std::size_t before = losses;
   try {
-    require(kind->effect == Kind::Looks || !leaveOutdatedPage(board),
-            "what is stored is not what this page shows any more: open it again");
-    kind->perform({board, viewport}, message);
+    const Hands hands{board, viewport};
+    if (kind->effect == Kind::Acts && leaveInstead(hands, message)) return;
+    kind->perform(hands, message);
     if (losses != before) showTruth(board);
   } catch (const desktop::Exception& raised) {
     // On a phone the Settings app would end here; at a desk, hearing of it is worth more.

@@ -103,6 +103,25 @@ TEST_F(OutdatedPageTest, IsNoneBySettingsThatItDoesNotHold) {
   EXPECT_EQ(disableFirst(), "");
 }
 
+TEST_F(OutdatedPageTest, IsLeftByItsBackButtonWithoutAWord) {
+  storeList({"Rain"});
+  tap(lottiesRow);
+  storeList({"Snow"});
+  EXPECT_EQ(refusal(json{{"kind", "tap"}, {"id", "page2.back"}}), "");
+  EXPECT_EQ(pages().pages().size(), 1U);
+  EXPECT_EQ(refusal(json{{"kind", "tap"}, {"id", clockRow}}), "");
+}
+
+TEST_F(OutdatedPageTest, HasNothingToDoWithTheBanner) {
+  storeList({"Rain"});
+  tap(lottiesRow);
+  storeList({"Snow"});
+  phone.banner = "It was not stored.";
+  EXPECT_EQ(refusal(json{{"kind", "tap"}, {"id", "banner"}}), "");
+  EXPECT_EQ(phone.banner, "");
+  EXPECT_EQ(disableFirst(), words);
+}
+
 TEST_F(OutdatedPageTest, IsNoneOnceItWasLeft) {
   storeList({"Rain"});
   tap(lottiesRow);
