@@ -19,7 +19,7 @@ namespace http = boost::beast::http;
 
 constexpr std::size_t maximumHeader = 8 * 1024;
 constexpr std::string_view host = "127.0.0.1:8080";
-constexpr std::string_view resourceAddress = "/pictures/1.png";
+constexpr std::string_view resourceAddress = "pictures/1.png";
 constexpr std::string_view resourceBytes = "the picture of the phone";
 
 std::string_view view(boost::beast::string_view text) { return {text.data(), text.size()}; }
@@ -28,12 +28,16 @@ std::string_view view(boost::beast::string_view text) { return {text.data(), tex
 struct Secrets {
   explicit Secrets(const settings::Access& access)
       : invitation(access.address().substr(access.address().find("/?"))),
-        cookie(access.cookie().substr(0, access.cookie().find(';'))) {}
+        cookie(access.cookie().substr(0, access.cookie().find(';'))),
+        home(access.home().substr(0, access.home().size() - 1)) {}
 
   /// The input with what the words in braces stand for: random inputs would never come upon it.
   std::string spliced(std::string text) const {
-    const std::pair<std::string_view, std::string_view> words[] = {
-        {"{HOST}", host}, {"{ORIGIN}", origin}, {"{COOKIE}", cookie}, {"{TOKEN}", token()}};
+    const std::pair<std::string_view, std::string_view> words[] = {{"{HOST}", host},
+                                                                   {"{ORIGIN}", origin},
+                                                                   {"{COOKIE}", cookie},
+                                                                   {"{HOME}", home},
+                                                                   {"{TOKEN}", token()}};
     for (const auto& [word, meaning] : words) {
       for (std::size_t at = 0; (at = text.find(word, at)) != std::string::npos;) {
         text.replace(at, word.size(), meaning);
@@ -50,6 +54,7 @@ struct Secrets {
   const std::string origin = "http://" + std::string(host);
   const std::string invitation;
   const std::string cookie;
+  const std::string home;
 };
 
 /// Whether the field stands there once, as `value`.
@@ -76,16 +81,18 @@ bool mayEnter(const Request& request, const Secrets& secrets) {
   return view(request.target()) == secrets.invitation || mentionsCookie(request, secrets);
 }
 
-void requireFile(const Request& request, const Response& response) {
+void requireFile(const Request& request, const Response& response, const Secrets& secrets) {
   if (request.method() == http::verb::head) {
     require(response.body().empty(), "a body for HEAD");
     return;
   }
   require(request.method() == http::verb::get, "a file for another method");
-  const std::string_view target = view(request.target());
+  std::string_view path = view(request.target());
+  require(path.starts_with(secrets.home + '/'), "a file outside the page's home");
+  path.remove_prefix(secrets.home.size());
   const auto assets = settings::webAssets();
-  const auto asset = std::ranges::find(assets, target, &settings::Asset::path);
-  const bool isResource = target == resourceAddress;
+  const auto asset = std::ranges::find(assets, path, &settings::Asset::path);
+  const bool isResource = path.substr(1) == resourceAddress;
   require(isResource || asset != assets.end(), "a file that there is not");
   require(response.body() == (isResource ? resourceBytes : asset->bytes), "another file");
 }
@@ -100,7 +107,7 @@ void requireSense(const Request& request, const Response& response, const Secret
   switch (response.result()) {
     case http::status::ok:
       require(mentionsCookie(request, secrets), "a file without the cookie");
-      return requireFile(request, response);
+      return requireFile(request, response, secrets);
     case http::status::see_other:
       return require(isInvited && response.body().empty(), "a cookie without the token");
     case http::status::forbidden:
@@ -116,7 +123,8 @@ void requireSense(const Request& request, const Response& response, const Secret
 void requireOwnPage(const settings::Access& access, const Request& request,
                     const Secrets& secrets) {
   if (access.refusal(request)) return;
-  require(says(request, "Host", host) && says(request, "Origin", secrets.origin) &&
+  require(view(request.target()) == secrets.home + settings::socketPath &&
+              says(request, "Host", host) && says(request, "Origin", secrets.origin) &&
               mentionsCookie(request, secrets),
           "a stranger gets the WebSocket");
 }
@@ -143,7 +151,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     if (error) break;
     const Request request = parser.release();
     if (boost::beast::websocket::is_upgrade(request) &&
-        view(request.target()) == settings::socketPath) {
+        access.path(request) == settings::socketPath) {
       requireOwnPage(access, request, secrets);
     }
     const Response response = settings::answer(access, request, &resourceAt);

@@ -1,5 +1,6 @@
 #include "settings/Access.h"
 
+#include <algorithm>
 #include <array>
 #include <boost/beast/http/field.hpp>
 #include <cerrno>
@@ -12,6 +13,8 @@ namespace settings {
 namespace http = boost::beast::http;
 
 namespace {
+
+constexpr std::string_view cookieName = "quillmere";
 
 std::string secret() {
   std::array<unsigned char, 16> bytes;
@@ -56,9 +59,8 @@ Access::Access(std::uint16_t port)
     : host_(port == 80 ? "127.0.0.1" : "127.0.0.1:" + std::to_string(port)),
       origin_("http://" + host_),
       token_(secret()),
-      // Browsers share cookies between the ports of a host, so each port has a name of its own.
-      cookieName_("quillmere-" + std::to_string(port)),
-      cookieSecret_(secret()) {}
+      home_('/' + secret()),
+      cookie_(secret()) {}
 
 bool Access::isInvitation(const Request& request) const {
   constexpr std::string_view prefix = "/?token=";
@@ -66,8 +68,18 @@ bool Access::isInvitation(const Request& request) const {
   return target.starts_with(prefix) && equalSecrets(target.substr(prefix.size()), token_);
 }
 
+std::optional<std::string_view> Access::path(const Request& request) const {
+  const std::string_view target = view(request.target());
+  const std::string_view rest = target.substr(std::min(home_.size(), target.size()));
+  if (!rest.starts_with('/') || !equalSecrets(target.substr(0, home_.size()), home_)) {
+    return std::nullopt;
+  }
+  return rest;
+}
+
 std::string Access::cookie() const {
-  return cookieName_ + "=" + cookieSecret_ + "; Path=/; HttpOnly; SameSite=Strict";
+  return std::string(cookieName) + '=' + cookie_ + "; Path=" + home() +
+         "; HttpOnly; SameSite=Strict";
 }
 
 std::optional<std::string_view> Access::refusal(const Request& request) const {
@@ -94,8 +106,8 @@ bool Access::showsCookie(const Request& request) const {
     std::string_view pair = rest.substr(0, end);
     while (pair.starts_with(' ')) pair.remove_prefix(1);
     const std::size_t equals = pair.find('=');
-    if (equals != std::string_view::npos && pair.substr(0, equals) == cookieName_ &&
-        equalSecrets(pair.substr(equals + 1), cookieSecret_)) {
+    if (equals != std::string_view::npos && pair.substr(0, equals) == cookieName &&
+        equalSecrets(pair.substr(equals + 1), cookie_)) {
       return true;
     }
     rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);

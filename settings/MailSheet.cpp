@@ -39,7 +39,7 @@ constexpr Field fields[] = {
 std::string fieldId(const std::string& id, const Field& field) { return id + "." + field.name; }
 
 std::string addressOf(const std::string& id, std::size_t attachment) {
-  return "/attachments/" + id + "." + std::to_string(attachment);
+  return "attachments/" + id + "." + std::to_string(attachment);
 }
 
 json choice(const std::string& id, const char* title, const char* style) {

@@ -38,7 +38,7 @@ json node(const desktop::CreditsCell& cell) {
   json people = json::array();
   for (const auto& person : cell.people()) {
     json column = {{"name", person.name}, {"detail", person.place}, {"url", person.url}};
-    if (!person.picture.empty()) column["image"] = "/bundle/" + person.picture;
+    if (!person.picture.empty()) column["image"] = "bundle/" + person.picture;
     people.push_back(std::move(column));
   }
   return {{"kind", "credits"}, {"tint", cell.tint().web()}, {"people", std::move(people)}};

@@ -15,7 +15,7 @@ const desktop::ImageBody& bodyOf(const platform::UIImage& image) {
 }
 
 std::string addressOf(const platform::UIImage& image) {
-  return "/pictures/" + std::to_string(bodyOf(image).number) + ".png";
+  return "pictures/" + std::to_string(bodyOf(image).number) + ".png";
 }
 
 }  // namespace
@@ -35,7 +35,7 @@ std::optional<Resource> Pictures::file(std::string_view address) const {
 }
 
 std::optional<Resource> bundlePicture(const desktop::Phone& phone, std::string_view address) {
-  constexpr std::string_view folder = "/bundle/";
+  constexpr std::string_view folder = "bundle/";
   if (!address.starts_with(folder) || !address.ends_with(".png")) return std::nullopt;
   const std::string_view name = address.substr(folder.size());
   if (name.starts_with('.') || name.find('/') != std::string_view::npos) return std::nullopt;

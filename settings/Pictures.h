@@ -17,7 +17,7 @@ class Pictures {
   /// How many are kept; more than a page and its successor show.
   static constexpr std::size_t maximum = 16;
 
-  /// Where the browser finds the picture: "/pictures/12.png".
+  /// Where the browser finds the picture: "pictures/12.png".
   std::string address(const platform::UIImage& image);
 
   /// The PNG file at such an address; none when there is none.
@@ -28,7 +28,7 @@ class Pictures {
   std::deque<platform::UIImage> shown_;
 };
 
-/// The picture file of the bundle at an address such as "/bundle/Face.png"; none for anything else.
+/// The picture file of the bundle at an address such as "bundle/Face.png"; none for anything else.
 std::optional<Resource> bundlePicture(const desktop::Phone& phone, std::string_view address);
 
 }  // namespace settings

@@ -44,8 +44,8 @@ tcp::acceptor listenOn(asio::io_context& loop, std::uint16_t port) {
   }
 }
 
-bool isHandshake(const Request& request) {
-  return beast::websocket::is_upgrade(request) && request.target() == socketPath;
+bool isHandshake(const Access& access, const Request& request) {
+  return beast::websocket::is_upgrade(request) && access.path(request) == socketPath;
 }
 
 }  // namespace
@@ -134,7 +134,7 @@ asio::awaitable<void> Server::serve(tcp::socket socket) {
 
       const bool isWelcome = !access_.refusal(request);
       if (isWelcome) place.letIn();
-      if (isWelcome && isHandshake(request)) {
+      if (isWelcome && isHandshake(access_, request)) {
         stream.expires_never();
         const auto client = std::make_shared<Client>(std::move(stream));
         co_await converse(client, request);

@@ -52,7 +52,7 @@ Response finished(Response response, const Request& request) {
 
 Response redirection(const Access& access, const Request& request) {
   Response response = bare(request, http::status::see_other);
-  response.set(http::field::location, "/");
+  response.set(http::field::location, access.home());
   response.set(http::field::set_cookie, access.cookie());
   return finished(std::move(response), request);
 }
@@ -102,11 +102,12 @@ Response answer(const Access& access, const Request& request, const Resources& r
     return response;
   }
   if (access.isInvitation(request)) return redirection(access, request);
-  const std::string_view target(request.target().data(), request.target().size());
-  const auto assets = webAssets();
-  const auto found = std::ranges::find(assets, target, &Asset::path);
-  if (found != assets.end()) return file(*found, request);
-  if (const auto offered = resources(target)) return resource(*offered, request);
+  if (const auto path = access.path(request)) {
+    const auto assets = webAssets();
+    const auto found = std::ranges::find(assets, *path, &Asset::path);
+    if (found != assets.end()) return file(*found, request);
+    if (const auto offered = resources(path->substr(1))) return resource(*offered, request);
+  }
   return plainAnswer(request, http::status::not_found, "There is no such file here.");
 }
 

@@ -10,10 +10,11 @@
 
 namespace settings {
 
-/// The path at which the page opens its WebSocket.
+/// The path below the home at which the page opens its WebSocket.
 inline constexpr const char* socketPath = "/socket";
 
-/// A file that is not part of the page itself, by its address; none when there is none.
+/// A file that is not part of the page itself, by its address, which is relative to the page's;
+/// none when there is none.
 using Resources = std::function<std::optional<Resource>(std::string_view address)>;
 
 /// The answer to a request for anything but the WebSocket: a file of the page, a resource, the

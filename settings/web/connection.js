@@ -16,7 +16,7 @@ export class Connection {
   }
 
   open() {
-    const socket = new WebSocket(new URL('/socket', location.href.replace(/^http/, 'ws')));
+    const socket = new WebSocket(new URL('socket', location.href.replace(/^http/, 'ws')));
     let reached = false;
     socket.addEventListener('message', ({ data }) => {
       this.#listener.received(JSON.parse(data));
@@ -45,7 +45,7 @@ export class Connection {
 /** A socket does not tell why it was turned away; a plain request does. */
 async function isForbidden() {
   try {
-    return (await fetch('/', { cache: 'no-store' })).status === 403;
+    return (await fetch('.', { cache: 'no-store' })).status === 403;
   } catch {
     return false;
   }

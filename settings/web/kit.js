@@ -1,10 +1,10 @@
 // The kit's components are registered one by one: its loader would put a style element into the
 // page, which the content security policy refuses.
-import { initialize } from '/ui/ionic/index.js';
-import { defineCustomElement as defineRange } from '/ui/ionic/ion-range.js';
-import { defineCustomElement as defineSegment } from '/ui/ionic/ion-segment.js';
-import { defineCustomElement as defineSegmentButton } from '/ui/ionic/ion-segment-button.js';
-import { defineCustomElement as defineToggle } from '/ui/ionic/ion-toggle.js';
+import { initialize } from './ui/ionic/index.js';
+import { defineCustomElement as defineRange } from './ui/ionic/ion-range.js';
+import { defineCustomElement as defineSegment } from './ui/ionic/ion-segment.js';
+import { defineCustomElement as defineSegmentButton } from './ui/ionic/ion-segment-button.js';
+import { defineCustomElement as defineToggle } from './ui/ionic/ion-toggle.js';
 
 initialize({ mode: 'ios' });
 for (const define of [defineRange, defineSegment, defineSegmentButton, defineToggle]) define();

@@ -1,4 +1,4 @@
-import Coloris from '/ui/coloris.js';
+import Coloris from './ui/coloris.js';
 import { element, setText } from './element.js';
 import { lay, lift } from './layers.js';
 

@@ -10,9 +10,12 @@ const cookieHeader = async ({ context }) => {
   return { Cookie: `${name}=${value}` };
 };
 
-scenario('without the cookie there is nothing but a refusal', {}, async ({ program }) => {
-  for (const path of ['/', '/index.html', '/app.js', '/favicon.svg', '/socket', '/nowhere']) {
-    const { status, body } = await ask(program, path);
+const pathOf = ({ home }) => new URL(home).pathname;
+
+scenario('without the cookie there is nothing but a refusal', {}, async (screen) => {
+  const paths = ['/', '/index.html', '/app.js', '/favicon.svg', '/socket', '/nowhere'];
+  for (const path of [...paths, ...paths.map((each) => pathOf(screen) + each)]) {
+    const { status, body } = await ask(screen.program, path);
     assert.deepEqual([status, body],
       [403, 'Open the address that Quillmere Settings printed.\n'], path);
   }
@@ -39,7 +42,9 @@ scenario('a wrong token is refused, and brings no cookie', {}, async ({ program 
 });
 
 scenario('the token leaves the address bar and the history', {}, async ({ page, program }) => {
-  assert.equal(page.url(), `${program.origin}/`);
+  assert.match(page.url(), /^http:\/\/127\.0\.0\.1:\d+\/[0-9a-f]{32}\/$/);
+  const token = program.invitation.searchParams.get('token');
+  assert.equal(page.url().includes(token), false);
   assert.equal(await page.evaluate(() => history.length), 2, 'about:blank and the page');
   assert.equal(await page.evaluate(() => document.referrer), '');
 });
@@ -49,13 +54,15 @@ scenario('the cookie is out of reach of scripts and of other sites', {}, async (
   assert.deepEqual(
     cookies.map(({ httpOnly, sameSite, path, domain, expires }) =>
       ({ httpOnly, sameSite, path, domain, expires })),
-    [{ httpOnly: true, sameSite: 'Strict', path: '/', domain: '127.0.0.1', expires: -1 }]);
+    [{ httpOnly: true, sameSite: 'Strict', path: `${pathOf(screen)}/`, domain: '127.0.0.1', expires: -1 }]);
   assert.equal(await screen.page.evaluate(() => document.cookie), '');
 });
 
 scenario('every answer carries the same policy and is not kept', {}, async (screen) => {
   const cookie = await cookieHeader(screen);
-  const asked = [['/', {}], ['/', cookie], ['/app.js', cookie], ['/nowhere', cookie]];
+  const home = pathOf(screen);
+  const asked = [['/', {}], ['/', cookie], [`${home}/`, cookie], [`${home}/app.js`, cookie],
+    [`${home}/nowhere`, cookie]];
   for (const [path, headers] of asked) {
     const answer = await ask(screen.program, path, headers);
     assert.equal(answer.headers['content-security-policy'], policy, path);
@@ -90,10 +97,10 @@ scenario('nothing but the page\'s own files is served', {}, async (screen) => {
     '/APP.JS', '/.git/config', phone, `/..${phone}`, screen.phone.file,
     `/..${screen.phone.file}`, '/Library/PreferenceBundles/Quillmere.bundle/Root.plist',
   ];
-  for (const path of paths) {
+  for (const path of [...paths, ...paths.map((each) => pathOf(screen) + each)]) {
     const { status, body } = await ask(screen.program, path, cookie);
     assert.deepEqual([status, body], [404, 'There is no such file here.\n'], path);
   }
-  const { status } = await ask(screen.program, '/app.js', cookie);
+  const { status } = await ask(screen.program, `${pathOf(screen)}/app.js`, cookie);
   assert.equal(status, 200, 'the cookie is the right one');
 });

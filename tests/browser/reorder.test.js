@@ -109,7 +109,7 @@ scenario('a row in the hand is put back when the list is another by then', five,
   async (screen) => {
     await screen.push('Lotties');
     const other = await screen.newPage();
-    await other.goto(screen.program.origin);
+    await other.goto(`${screen.home}/`);
     for (const end of [() => screen.page.keyboard.press('Escape'), () => {}]) {
       const before = await list(screen).enabled();
       await take(screen, 'Comet', -rowHeight);

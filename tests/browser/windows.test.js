@@ -5,7 +5,7 @@ import { scenario } from './fixture/scenario.js';
 /** A second window on the same program. */
 async function another(screen) {
   const page = await screen.newPage();
-  await page.goto(screen.program.origin);
+  await page.goto(`${screen.home}/`);
   await page.getByRole('heading', { level: 1 }).waitFor();
   return page;
 }

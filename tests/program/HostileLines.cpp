@@ -6,13 +6,13 @@ using namespace std::string_literals;
 using Texts = std::vector<std::string>;
 
 Texts hostileFirstLines() {
-  Texts lines{"GET / HTTP/2.0",    "GET / HTTP/0.9",
-              "GET / HTTP/1.",     "GET / HTTP/11",
-              "GET / http/1.1",    "GET / HTTP /1.1",
-              "GET / FTP/1.1",     "GET /",
-              "GET  HTTP/1.1",     "GET",
-              " GET / HTTP/1.1",   "GET\t/\tHTTP/1.1",
-              "\0GET / HTTP/1.1"s, "CONNECT example.com:80 HTTP/1.1",
+  Texts lines{"GET {HOME}/ HTTP/2.0",    "GET {HOME}/ HTTP/0.9",
+              "GET {HOME}/ HTTP/1.",     "GET {HOME}/ HTTP/11",
+              "GET {HOME}/ http/1.1",    "GET {HOME}/ HTTP /1.1",
+              "GET {HOME}/ FTP/1.1",     "GET {HOME}/",
+              "GET  HTTP/1.1",           "GET",
+              " GET {HOME}/ HTTP/1.1",   "GET\t{HOME}/\tHTTP/1.1",
+              "\0GET {HOME}/ HTTP/1.1"s, "CONNECT example.com:80 HTTP/1.1",
               "OPTIONS * HTTP/1.1"};
   for (const std::string& method : {"GET"s, "HEAD"s}) {
     for (const std::string& target :
@@ -63,6 +63,7 @@ Texts hostileFirstLines() {
           "/Library/PreferenceBundles/Quillmere.bundle/Root.plist"s,
           "/.git/config"s}) {
       lines.push_back(method + ' ' + target + " HTTP/1.1");
+      if (target.starts_with('/')) lines.push_back(method + " {HOME}" + target + " HTTP/1.1");
     }
   }
   return lines;
@@ -87,7 +88,7 @@ Texts hostileFields() {
 }
 
 Texts noRequests() {
-  return {"GET /\r\n\r\n",
+  return {"GET {HOME}/\r\n\r\n",
           "PRI * HTTP/2.0\r\n\r\nSM\r\n\r\n",
           "hello\r\n\r\n",
           "\r\n\r\n",
@@ -98,8 +99,8 @@ Texts noRequests() {
           "SSH-2.0-OpenSSH_9.2\r\n",
           "EHLO example.com\r\nMAIL FROM:<x@example.com>\r\n",
           "*1\r\n$4\r\nINFO\r\n",
-          "GET / HTTP/1.1\nHost: {HOST}\nCookie: {COOKIE}\n\n",
-          "GET / HTTP/1.1\rHost: {HOST}\rCookie: {COOKIE}\r\r",
+          "GET {HOME}/ HTTP/1.1\nHost: {HOST}\nCookie: {COOKIE}\n\n",
+          "GET {HOME}/ HTTP/1.1\rHost: {HOST}\rCookie: {COOKIE}\r\r",
           "HTTP/1.1 200 OK\r\n\r\n"};
 }
 

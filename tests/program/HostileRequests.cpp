@@ -13,7 +13,7 @@ using Texts = std::vector<std::string>;
 
 /// The parts of a request, all of them right.
 struct Asked {
-  std::string start = "GET / HTTP/1.1";
+  std::string start = "GET {HOME}/ HTTP/1.1";
   std::string host = "Host: {HOST}\r\n";
   std::string cookie = "Cookie: {COOKIE}\r\n";
   std::string more = "";
@@ -24,7 +24,8 @@ struct Asked {
   }
 };
 
-const Texts targets{"/", "/app.js", "/style.css", "/favicon.svg", "/nodes/kinds.js"};
+const Texts targets{"{HOME}/", "{HOME}/app.js", "{HOME}/style.css", "{HOME}/favicon.svg",
+                    "{HOME}/nodes/kinds.js"};
 
 const std::string handshake =
     "Upgrade: websocket\r\nSec-WebSocket-Version: 13\r\n"
@@ -57,7 +58,7 @@ const Texts cookies{"",
                     "Cookie: X-{COOKIE}\r\n",
                     "Cookie: {COOKIE},{COOKIE}\r\n",
                     "Cookie: x={COOKIE}\r\n",
-                    "Cookie: quillmere-1=0123456789abcdef0123456789abcdef\r\n",
+                    "Cookie: quillmere=0123456789abcdef0123456789abcdef\r\n",
                     "Cookie: quillmere=\r\n",
                     "Cookie: =\r\n",
                     "Cookie: ;;;\r\n",
@@ -138,6 +139,8 @@ Texts wrongInvitations(const std::string& invitation) {
           "/index.html?token=" + token,
           "/app.js?token=" + token,
           "/socket?token=" + token,
+          "{HOME}/" + invitation.substr(1),
+          "{HOME}/?token=" + token + "0",
           "http://{HOST}" + invitation,
           "/?token=" + std::string(token.size(), '0')};
 }
@@ -167,7 +170,7 @@ std::vector<std::string> hostileRequests(const std::string& invitation) {
       add({.start = method + ' ' + target + " HTTP/1.1", .more = "Origin: {ORIGIN}\r\n"});
     }
   }
-  const std::string socket = "GET /socket HTTP/1.1";
+  const std::string socket = "GET {HOME}/socket HTTP/1.1";
   const std::string welcome = handshake + "Origin: {ORIGIN}\r\n";
   for (const auto& host : hosts) add({.start = socket, .host = host, .more = welcome});
   for (const auto& cookie : cookies) add({.start = socket, .cookie = cookie, .more = welcome});
@@ -177,7 +180,7 @@ std::vector<std::string> hostileRequests(const std::string& invitation) {
     add({.start = socket, .more = welcome + more, .body = body});
   }
   for (const auto& method : methods) {
-    add({.start = method + " /socket HTTP/1.1", .more = welcome});
+    add({.start = method + " {HOME}/socket HTTP/1.1", .more = welcome});
   }
   for (const auto& line : hostileFirstLines()) add({.start = line});
   for (const auto& field : hostileFields()) add({.more = field});

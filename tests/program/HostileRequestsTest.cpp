@@ -44,7 +44,7 @@ class HostileRequest : public RunningProgram {
     EXPECT_EQ(page.message()["nodes"]["page2.group0.row0"]["on"], false);
   }
 
-  WebSocket openPage() const { return {port, filled("Cookie: {COOKIE}\r\nOrigin: {ORIGIN}\r\n")}; }
+  WebSocket openPage() const { return WebSocket(pass); }
 
   std::string answer(const std::string& bytes) const {
     const Connection connection(port);
@@ -78,7 +78,7 @@ TEST_F(HostileRequest, GetsNothingAndHarmsNothing) {
 /// What follows a body of which it is not sure where it ends is no request.
 TEST_F(HostileRequest, CarriesNoSecondRequest) {
   const std::string second =
-      "GET /app.js HTTP/1.1\r\nHost: {HOST}\r\nCookie: {COOKIE}\r\nConnection: close\r\n\r\n";
+      "GET {HOME}/app.js HTTP/1.1\r\nHost: {HOST}\r\nCookie: {COOKIE}\r\nConnection: close\r\n\r\n";
   for (const char* fields :
        {"Content-Length: 4\r\nTransfer-Encoding: chunked\r\n",
         "Content-Length: 0\r\nContent-Length: 4\r\n", "Content-Length: 300\r\n",
@@ -87,7 +87,7 @@ TEST_F(HostileRequest, CarriesNoSecondRequest) {
     for (const char* method : {"GET", "HEAD", "POST"}) {
       SCOPED_TRACE(std::string(method) + ", " + fields);
       expectRefused(answer(std::string(method) +
-                           " / HTTP/1.1\r\nHost: {HOST}\r\nCookie: {COOKIE}\r\n" + fields +
+                           " {HOME}/ HTTP/1.1\r\nHost: {HOST}\r\nCookie: {COOKIE}\r\n" + fields +
                            "\r\n0\r\n\r\n" + second));
     }
   }

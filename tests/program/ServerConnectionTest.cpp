@@ -11,7 +11,7 @@ class ServerConnection : public RunningProgram {
  protected:
   /// A request for the first page that leaves the connection open.
   std::string request() const {
-    return filled("GET / HTTP/1.1\r\nHost: {HOST}\r\nCookie: {COOKIE}\r\n\r\n");
+    return filled("GET {HOME}/ HTTP/1.1\r\nHost: {HOST}\r\nCookie: {COOKIE}\r\n\r\n");
   }
 };
 
@@ -39,9 +39,10 @@ TEST_F(ServerConnection, IsKeptForFurtherRequests) {
 
 TEST_F(ServerConnection, AnswersRequestsThatComeAtOnceInOrder) {
   const Connection connection(port);
-  connection.send(filled("GET /missing HTTP/1.1\r\nHost: {HOST}\r\nCookie: {COOKIE}\r\n\r\n") +
-                  filled("HEAD / HTTP/1.1\r\nHost: {HOST}\r\nCookie: {COOKIE}\r\n"
-                         "Connection: close\r\n\r\n"));
+  connection.send(
+      filled("GET {HOME}/missing HTTP/1.1\r\nHost: {HOST}\r\nCookie: {COOKIE}\r\n\r\n") +
+      filled("HEAD {HOME}/ HTTP/1.1\r\nHost: {HOST}\r\nCookie: {COOKIE}\r\n"
+             "Connection: close\r\n\r\n"));
   const std::string answers = connection.receiveAll();
   EXPECT_EQ(statusOf(answers), 404);
   const std::size_t second = answers.find("HTTP/1.1", 1);
@@ -52,7 +53,7 @@ TEST_F(ServerConnection, AnswersRequestsThatComeAtOnceInOrder) {
 
 TEST_F(ServerConnection, GetsNoSecondAnswerAfterARefusedBody) {
   const Connection connection(port);
-  connection.send(filled("POST / HTTP/1.1\r\nHost: {HOST}\r\nCookie: {COOKIE}\r\n"
+  connection.send(filled("POST {HOME}/ HTTP/1.1\r\nHost: {HOST}\r\nCookie: {COOKIE}\r\n"
                          "Content-Length: 30\r\n\r\n") +
                   request());
   connection.finish();

@@ -120,12 +120,7 @@ TEST_F(SetTest, SaysThatNothingCouldBeStored) {
 void slideOnPage(const std::string& phone, const std::string& command) {
   // A system from before the welcome screen, which would cover the page.
   Program program({{"--root", phone, "--ios-version", "12.4", "--notify-command", command}});
-  const std::string host = "127.0.0.1:" + std::to_string(program.port());
-  const std::string response = answerTo(
-      program.port(), "GET " + program.invitation() + " HTTP/1.0\r\nHost: " + host + "\r\n\r\n");
-  const std::string cookie = fieldOf(response, "Set-Cookie");
-  const WebSocket page(program.port(), "Cookie: " + cookie.substr(0, cookie.find(';')) +
-                                           "\r\nOrigin: http://" + host + "\r\n");
+  const WebSocket page(letIn(program));
   page.message();
   page.touch({{"kind", "tap"}, {"id", "page1.group0.row1"}});
   page.message();

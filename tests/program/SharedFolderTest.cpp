@@ -16,38 +16,39 @@ using nlohmann::json;
 /// Another program runs over the same folder.
 class SharedFolder : public RunningProgram {
  protected:
-  SharedFolder() {
-    const std::string response =
-        answerTo(other.port(), "GET " + other.invitation() + " HTTP/1.0\r\nHost: 127.0.0.1:" +
-                                   std::to_string(other.port()) + "\r\n\r\n");
-    otherCookie = fieldOf(response, "Set-Cookie");
-    otherCookie = otherCookie.substr(0, otherCookie.find(';'));
-  }
-
-  WebSocket pageOf(std::uint16_t at, const std::string& withCookie) const {
-    WebSocket socket(at, "Cookie: " + withCookie +
-                             "\r\nOrigin: http://127.0.0.1:" + std::to_string(at) + "\r\n");
+  static WebSocket pageOf(const Pass& pass) {
+    WebSocket socket(pass);
     EXPECT_EQ(socket.status(), 101);
     socket.message();
     return socket;
   }
 
   Program other{{arguments}};
-  std::string otherCookie;
+  const Pass otherPass = letIn(other);
   const json openClock{{"kind", "tap"}, {"id", "page1.group0.row1"}};
 };
 
 TEST_F(SharedFolder, HasCookiesThatAreNoGoodToTheOtherProgram) {
-  EXPECT_EQ(WebSocket(port, filled("Cookie: " + otherCookie + "\r\nOrigin: {ORIGIN}\r\n")).status(),
-            403);
-  EXPECT_EQ(WebSocket(port, filled("Cookie: {COOKIE}; " + otherCookie + "\r\nOrigin: {ORIGIN}\r\n"))
-                .status(),
-            101);
+  Pass mixed = pass;
+  mixed.cookie = otherPass.cookie;
+  EXPECT_EQ(WebSocket(mixed).status(), 403);
+  mixed.cookie = pass.cookie + "; " + otherPass.cookie;
+  EXPECT_EQ(WebSocket(mixed).status(), 101);
+}
+
+/// Another server on this computer may get hold of a cookie, and of more, but not of the path.
+TEST_F(SharedFolder, HasAHomeThatIsNoGoodToTheOtherProgram) {
+  for (const std::string& home : {otherPass.home, std::string(), pass.home.substr(1),
+                                  pass.home.substr(0, pass.home.size() - 1), pass.home + '0'}) {
+    Pass mixed = pass;
+    mixed.home = home;
+    EXPECT_NE(WebSocket(mixed).status(), 101) << home;
+  }
 }
 
 TEST_F(SharedFolder, ShowsWhatTheOtherProgramStored) {
-  const WebSocket first = pageOf(port, cookie);
-  const WebSocket second = pageOf(other.port(), otherCookie);
+  const WebSocket first = pageOf(pass);
+  const WebSocket second = pageOf(otherPass);
   first.touch(openClock);
   first.message();
   first.touch({{"kind", "toggle"}, {"id", "page2.group0.row0"}, {"on", false}});
@@ -57,8 +58,8 @@ TEST_F(SharedFolder, ShowsWhatTheOtherProgramStored) {
 }
 
 TEST_F(SharedFolder, KeepsTheChangesOfBoth) {
-  const WebSocket first = pageOf(port, cookie);
-  const WebSocket second = pageOf(other.port(), otherCookie);
+  const WebSocket first = pageOf(pass);
+  const WebSocket second = pageOf(otherPass);
   for (const WebSocket* page : {&first, &second}) {
     page->touch(openClock);
     page->message();
@@ -97,8 +98,8 @@ void slideAndLook(const WebSocket& page, const char* row, const std::string& key
 }
 
 TEST_F(SharedFolder, KeepsTheChangesThatBothMakeAtOnce) {
-  const WebSocket first = pageOf(port, cookie);
-  const WebSocket second = pageOf(other.port(), otherCookie);
+  const WebSocket first = pageOf(pass);
+  const WebSocket second = pageOf(otherPass);
   for (const WebSocket* page : {&first, &second}) {
     page->touch(openClock);
     page->message();
@@ -110,7 +111,7 @@ TEST_F(SharedFolder, KeepsTheChangesThatBothMakeAtOnce) {
 }
 
 TEST_F(SharedFolder, RefusesATouchWhileAnotherProgramIsBusyWithIt) {
-  const WebSocket page = pageOf(port, cookie);
+  const WebSocket page = pageOf(pass);
   {
     const desktop::PhoneFolder busy(folder.path);
     const desktop::Descriptor held = busy.hold(std::chrono::seconds(10));

@@ -13,12 +13,7 @@ using nlohmann::json;
 class SlowCommand : public SubCommands {
  protected:
   WebSocket page() {
-    const std::string host = "127.0.0.1:" + std::to_string(program.port());
-    const std::string response = answerTo(
-        program.port(), "GET " + program.invitation() + " HTTP/1.0\r\nHost: " + host + "\r\n\r\n");
-    const std::string cookie = fieldOf(response, "Set-Cookie");
-    WebSocket socket(program.port(), "Cookie: " + cookie.substr(0, cookie.find(';')) +
-                                         "\r\nOrigin: http://" + host + "\r\n");
+    WebSocket socket(letIn(program));
     socket.message();
     return socket;
   }

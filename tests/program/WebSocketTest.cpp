@@ -14,7 +14,7 @@ using nlohmann::json;
 
 class WebSocketTest : public RunningProgram {
  protected:
-  WebSocket handshake(const std::string& fields) const { return {port, filled(fields)}; }
+  WebSocket handshake(const std::string& fields) const { return {pass, filled(fields)}; }
 
   /// A page that has the whole screen.
   WebSocket page() const {

@@ -25,12 +25,27 @@ TEST_F(AccessTest, HasNewSecretsEachTime) {
   const Access other(port);
   EXPECT_NE(access.address(), other.address());
   EXPECT_NE(access.cookie(), other.cookie());
+  EXPECT_NE(access.home(), other.home());
 }
 
-TEST_F(AccessTest, KeepsTheCookieFromScriptsAndOtherSites) {
-  EXPECT_THAT(
-      access.cookie(),
-      testing::MatchesRegex("quillmere-8080=[0-9a-f]{32}; Path=/; HttpOnly; SameSite=Strict"));
+TEST_F(AccessTest, KnowsWhatLiesBelowItsHome) {
+  const std::string home = access.home();
+  EXPECT_EQ(access.path(get(home, {})), "/");
+  EXPECT_EQ(access.path(get(home + "nodes/kinds.js", {})), "/nodes/kinds.js");
+  for (const std::string& target :
+       {std::string(), std::string("/"), std::string("*"), home.substr(0, home.size() - 1),
+        home.substr(1), '/' + home, "/x" + home.substr(2), "http://127.0.0.1:8080" + home}) {
+    EXPECT_EQ(access.path(get(target, {})), std::nullopt) << target;
+  }
+}
+
+TEST_F(AccessTest, KeepsTheCookieFromScriptsAndOtherSitesAndOtherServers) {
+  EXPECT_THAT(access.home(), testing::MatchesRegex("/[0-9a-f]{32}/"));
+  EXPECT_THAT(access.cookie(),
+              testing::MatchesRegex("quillmere=[0-9a-f]{32}; Path=" + access.home() +
+                                    "; HttpOnly; SameSite=Strict"));
+  EXPECT_EQ(access.address().find(access.home().substr(1, 32)), std::string::npos);
+  EXPECT_EQ(cookie.find(access.home().substr(1, 32)), std::string::npos);
   EXPECT_EQ(access.address().find(cookie.substr(cookie.find('=') + 1)), std::string::npos);
 }
 
@@ -77,7 +92,7 @@ TEST_F(AccessTest, RefusesWhatHasABody) {
 
 TEST_F(AccessTest, FindsTheCookieAmongOthers) {
   for (const std::string& field : {"a=b; " + cookie, cookie + "; a=b", "a=b;" + cookie,
-                                   "; ;=; " + cookie, "quillmere-8080=wrong; " + cookie}) {
+                                   "; ;=; " + cookie, "quillmere=wrong; " + cookie}) {
     EXPECT_TRUE(allows(get("/", {{"Host", host}, {"Cookie", field}}))) << field;
   }
 }
@@ -93,11 +108,10 @@ TEST_F(AccessTest, RefusesCookiesThatAreAlmostRight) {
   const std::string value = cookie.substr(cookie.find('=') + 1);
   for (const std::string& field :
        {std::string(""), cookie + "0", cookie.substr(0, cookie.size() - 1),
-        "quillmere-8080=" + std::string(32, '0'), "quillmere-8081=" + value,
-        "Quillmere-8080=" + value, "x" + cookie, "quillmere-8080 =" + value,
-        "quillmere-8080=\"" + value + "\"", std::string("quillmere-8080"),
-        std::string("quillmere-8080="), "a=" + cookie, cookiePair(Access(port)),
-        cookiePair(Access(8081))}) {
+        "quillmere=" + std::string(32, '0'), "quillmere-8081=" + value, "Quillmere=" + value,
+        "x" + cookie, "quillmere =" + value, "quillmere=\"" + value + "\"",
+        std::string("quillmere"), std::string("quillmere="), "a=" + cookie,
+        cookiePair(Access(port)), "quillmere-8080=" + value}) {
     EXPECT_FALSE(allows(get("/", {{"Host", host}, {"Cookie", field}}))) << field;
   }
 }

@@ -14,9 +14,10 @@ using boost::beast::http::status;
 /// The files that the screen offers, as a browser gets them.
 class ResourcesTest : public PhoneScreenTest {
  protected:
-  settings::Response ask(const std::string& target) {
+  /// The answer to an address as the screen gives it, relative to the page's.
+  settings::Response ask(const std::string& asked) {
     return settings::answer(
-        access, get(target, {{"Host", host}, {"Cookie", cookiePair(access)}}),
+        access, get(access.home() + asked, {{"Host", host}, {"Cookie", cookiePair(access)}}),
         [this](std::string_view address) { return screen.file(address, pictures); });
   }
 
@@ -51,7 +52,7 @@ TEST_F(ResourcesTest, APictureOnTheScreenIsServed) {
 }
 
 TEST_F(ResourcesTest, TheBundlesPicturesAreServed) {
-  const auto response = ask("/bundle/Designer@3x.png");
+  const auto response = ask("bundle/Designer@3x.png");
   EXPECT_EQ(response.result(), status::ok);
   EXPECT_EQ(type(response), "image/png");
   EXPECT_EQ(response.body(), phone.folder.read(phone.bundle + "/Designer@3x.png"));
@@ -87,10 +88,10 @@ TEST_F(ResourcesTest, NothingElseOfTheBundleIsServed) {
                            "Icon@2x.png?",
                            "..%2fOuter.png",
                            "Root.plist?.png"}) {
-    EXPECT_EQ(ask(std::string("/bundle/") + name).result(), status::not_found) << name;
+    EXPECT_EQ(ask(std::string("bundle/") + name).result(), status::not_found) << name;
   }
-  EXPECT_EQ(ask("/Bundle/Icon@2x.png").result(), status::not_found);
-  EXPECT_EQ(ask("/bundle").result(), status::not_found);
+  EXPECT_EQ(ask("Bundle/Icon@2x.png").result(), status::not_found);
+  EXPECT_EQ(ask("bundle").result(), status::not_found);
 }
 
 TEST_F(ResourcesTest, AnAttachmentOfPlainTextIsShown) {
@@ -130,7 +131,7 @@ TEST_F(ResourcesTest, WhileThePhoneRestartsThereAreNoAttachments) {
 
 TEST_F(ResourcesTest, StrangersGetNone) {
   const auto refused =
-      settings::answer(access, get("/bundle/Icon@2x.png", {{"Host", host}}),
+      settings::answer(access, get(access.home() + "bundle/Icon@2x.png", {{"Host", host}}),
                        [this](std::string_view address) { return screen.file(address, pictures); });
   EXPECT_EQ(refused.result(), status::forbidden);
 }

@@ -70,7 +70,7 @@ TEST_F(ScreenTest, ShowsTheCredits) {
     "kind": "credits", "label": "", "height": 120.0, "tint": "#f69240ff", "people": [
       {"name": "orvalen", "detail": "Twitter", "url": "https://twitter.com/orvalen"},
       {"name": "orvalen", "detail": "Reddit", "url": "https://www.reddit.com/user/orvalen"},
-      {"name": "Orvalen Design", "detail": "Designer", "image": "/bundle/Designer@3x.png",
+      {"name": "Orvalen Design", "detail": "Designer", "image": "bundle/Designer@3x.png",
        "url": "https://twitter.com/orvalendesign"}]})"));
 }
 

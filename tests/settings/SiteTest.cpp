@@ -19,13 +19,14 @@ class SiteTest : public testing::Test {
     return answer(
         request(method, target, {{"Host", host}, {"Origin", origin}, {"Cookie", cookie}}));
   }
-  settings::Response ask(const std::string& target) const { return ask(verb::get, target); }
+  settings::Response ask(const std::string& path) const { return ask(verb::get, home + path); }
   settings::Response answer(const settings::Request& asked) const {
     return settings::answer(access, asked, [](std::string_view) { return std::nullopt; });
   }
 
   const settings::Access access{port};
   const std::string cookie = cookiePair(access);
+  const std::string home = access.home().substr(0, access.home().size() - 1);
 };
 
 std::string field(const settings::Response& response, const std::string& name) {
@@ -68,7 +69,7 @@ TEST_F(SiteTest, NamesTheTypeOfEachFile) {
 }
 
 TEST_F(SiteTest, AnswersHeadAsGetWithoutABody) {
-  const auto head = ask(verb::head, "/app.js");
+  const auto head = ask(verb::head, home + "/app.js");
   EXPECT_EQ(head.result(), status::ok);
   EXPECT_EQ(head.body(), "");
   EXPECT_EQ(field(head, "Content-Length"), field(ask("/app.js"), "Content-Length"));
@@ -79,7 +80,7 @@ TEST_F(SiteTest, AnswersHeadAsGetWithoutABody) {
 TEST_F(SiteTest, RefusesEveryOtherMethod) {
   for (const verb method : {verb::post, verb::put, verb::delete_, verb::options, verb::trace,
                             verb::connect, verb::patch, verb::unknown}) {
-    const auto response = ask(method, "/");
+    const auto response = ask(method, home + "/");
     EXPECT_EQ(response.result(), status::method_not_allowed) << http::to_string(method);
     EXPECT_EQ(field(response, "Allow"), "GET, HEAD");
     expectCommonFields(response);
@@ -92,17 +93,28 @@ TEST_F(SiteTest, FindsNothingElse) {
         "/..%2fapp.js", "/ui/../app.js", "/./app.js", "http://127.0.0.1:8080/app.js", "*",
         "/socket", "/index.html", "\\app.js",
         "/var/mobile/Library/Preferences/com.orvalen.quillmere.plist"}) {
-    const auto response = ask(target);
-    EXPECT_EQ(response.result(), status::not_found) << target;
-    EXPECT_EQ(field(response, "Content-Type"), "text/plain; charset=utf-8");
-    expectCommonFields(response);
+    for (const auto& response : {ask(target), ask(verb::get, target)}) {
+      EXPECT_EQ(response.result(), status::not_found) << target;
+      EXPECT_EQ(field(response, "Content-Type"), "text/plain; charset=utf-8");
+      expectCommonFields(response);
+    }
+  }
+}
+
+/// A browser shows the cookie below the home only; whoever knows the cookie alone learns nothing.
+TEST_F(SiteTest, HasNothingOutsideItsHome) {
+  const std::string other = settings::Access(port).home();
+  for (const std::string& target :
+       {std::string("/"), std::string("/app.js"), home, home.substr(1), home + "0/",
+        home.substr(0, home.size() - 1) + "/app.js", '/' + home + "/", other, other + "app.js"}) {
+    EXPECT_EQ(ask(verb::get, target).result(), status::not_found) << target;
   }
 }
 
 TEST_F(SiteTest, TurnsAnInvitationIntoACookie) {
   const auto response = answer(get(invitationTarget(access), {{"Host", host}}));
   EXPECT_EQ(response.result(), status::see_other);
-  EXPECT_EQ(field(response, "Location"), "/");
+  EXPECT_EQ(field(response, "Location"), access.home());
   EXPECT_EQ(field(response, "Set-Cookie"), access.cookie());
   EXPECT_EQ(response.body(), "");
   expectCommonFields(response);
@@ -117,7 +129,8 @@ TEST_F(SiteTest, GivesTheCookieToInvitationsOnly) {
 }
 
 TEST_F(SiteTest, SaysNothingOfItsFilesToStrangers) {
-  for (const char* target : {"/", "/app.js", "/missing"}) {
+  for (const std::string& target : {std::string("/"), std::string("/missing"), home + "/",
+                                    home + "/app.js", home + "/missing"}) {
     for (const verb method : {verb::get, verb::post}) {
       const auto response = answer(request(method, target, {{"Host", host}}));
       EXPECT_EQ(response.result(), status::forbidden) << target;
@@ -128,7 +141,7 @@ TEST_F(SiteTest, SaysNothingOfItsFilesToStrangers) {
 }
 
 TEST_F(SiteTest, KeepsTheConnectionAsTheRequestWantsIt) {
-  auto page = get("/", {{"Host", host}, {"Cookie", cookie}});
+  auto page = get(home + "/", {{"Host", host}, {"Cookie", cookie}});
   EXPECT_TRUE(answer(page).keep_alive());
   page.keep_alive(false);
   EXPECT_FALSE(answer(page).keep_alive());

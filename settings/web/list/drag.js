@@ -1,4 +1,4 @@
-import Sortable from '/ui/sortable.js';
+import Sortable from '../ui/sortable.js';
 
 const options = {
   draggable: '.cell', handle: '.grip', forceFallback: true, fallbackTolerance: 3,

@@ -30,11 +30,7 @@ WebSocket openPage(const std::string& address) {
   const std::string origin = address.substr(0, path);
   const std::string host = origin.substr(std::string("http://").size());
   const auto port = static_cast<std::uint16_t>(std::stoi(host.substr(host.find(':') + 1)));
-  const std::string response =
-      program_tests::answerTo(port, "GET " + address.substr(path) + " HTTP/1.1\r\nHost: " + host +
-                                        "\r\nConnection: close\r\n\r\n");
-  const std::string cookie = program_tests::fieldOf(response, "Set-Cookie");
-  return {port, "Cookie: " + cookie.substr(0, cookie.find(';')) + "\r\nOrigin: " + origin + "\r\n"};
+  return WebSocket(program_tests::letIn(port, address.substr(path)));
 }
 
 /// The nodes as the page has them after the message.

@@ -95,7 +95,7 @@ TEST_F(LostRoom, ByAPhoneFolderThatIsDeletedIsTold) {
   EXPECT_FALSE(fs::exists(folder.path));
   // Another start makes a new phone in its place.
   Program anew{{arguments}};
-  const WebSocket page = openClockPage(anew.port(), letInBy(anew));
+  const WebSocket page = openClockPage(program_tests::letIn(anew));
   page.send(frame(Opcode::Text, slide(sizeRow, 70)));
   EXPECT_NE(page.receive().payload.find(shownValue(70)), std::string::npos);
   EXPECT_EQ(numberIn(preferences(), "clockDigitSize"), 70);

@@ -36,8 +36,8 @@ constexpr void (*waysToGo[])(const WebSocket&) = {
 class Reconnects : public Served {
  protected:
   void comeAndGo(std::size_t times) const {
-    const std::string handshake = "GET /socket HTTP/1.1\r\n" + filled("Host: {HOST}\r\n") +
-                                  fields() + "Upgrade: websocket\r\n";
+    const std::string handshake = filled("GET {HOME}/socket HTTP/1.1\r\nHost: {HOST}\r\n") +
+                                  pass.fields() + "Upgrade: websocket\r\n";
     for (std::size_t each = 0; each < times && !HasFailure(); ++each) {
       if (each % 8 == 7) {
         Connection(port).send(handshake);

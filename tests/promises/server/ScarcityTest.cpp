@@ -31,7 +31,7 @@ class Scarcity : public Served {
 
 TEST_F(Scarcity, OfDescriptorsIsToldAndOver) {
   Program cramped{{.arguments = arguments, .openFiles = 18}};
-  const WebSocket page = openClockPage(cramped.port(), letInBy(cramped));
+  const WebSocket page = openClockPage(program_tests::letIn(cramped));
   EXPECT_TRUE(contains(slideTo(page, 20), shownValue(20)));
   unsigned told = 0;
   {
@@ -68,7 +68,7 @@ class NoListener : public Scarcity, public testing::WithParamInterface<Output> {
 TEST_P(NoListener, OfComplaintsKeepsNobodyWaiting) {
   Program unheard{{.arguments = arguments, .errors = GetParam()}};
   std::ofstream(preferences()) << "no property list";
-  const WebSocket page = openClockPage(unheard.port(), letInBy(unheard));
+  const WebSocket page = openClockPage(program_tests::letIn(unheard));
   for (int round = 0; round < 1'000 && !HasFailure(); ++round) {
     const int value = 1 + round % 200;
     const std::string answer = slideTo(page, value);

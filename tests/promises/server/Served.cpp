@@ -16,8 +16,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-WebSocket openPage(std::uint16_t port, const std::string& fields) {
-  WebSocket socket(port, fields);
+WebSocket openPage(const program_tests::Pass& pass) {
+  WebSocket socket(pass);
   EXPECT_EQ(socket.status(), 101);
   EXPECT_EQ(socket.message()["kind"], "screen");
   return socket;
@@ -25,17 +25,8 @@ WebSocket openPage(std::uint16_t port, const std::string& fields) {
 
 }  // namespace
 
-std::string letInBy(program_tests::Program& program) {
-  const std::string host = "127.0.0.1:" + std::to_string(program.port());
-  const std::string given = program_tests::fieldOf(
-      program_tests::answerTo(program.port(), "GET " + program.invitation() +
-                                                  " HTTP/1.0\r\nHost: " + host + "\r\n\r\n"),
-      "Set-Cookie");
-  return "Cookie: " + given.substr(0, given.find(';')) + "\r\nOrigin: http://" + host + "\r\n";
-}
-
-WebSocket openClockPage(std::uint16_t port, const std::string& fields) {
-  WebSocket socket = openPage(port, fields);
+WebSocket openClockPage(const program_tests::Pass& pass) {
+  WebSocket socket = openPage(pass);
   socket.touch(openClock);
   EXPECT_TRUE(socket.message()["nodes"].contains(sizeRow));
   return socket;
@@ -49,7 +40,7 @@ std::optional<double> numberIn(const fs::path& preferences, const char* key) {
   return found ? found->real() : std::nullopt;
 }
 
-WebSocket Served::page() const { return openPage(port, fields()); }
+WebSocket Served::page() const { return openPage(pass); }
 
 Use Served::use() const {
   const fs::path process = "/proc/" + std::to_string(program.process());

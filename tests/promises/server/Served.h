@@ -19,11 +19,8 @@ struct Use {
   std::size_t descriptors;  ///< Open files, sockets among them.
 };
 
-/// What a browser that a program has let in says with its handshake.
-std::string letInBy(program_tests::Program& program);
-
 /// A page that has the whole screen; it leads to the Clock page, whose rows are named below.
-WebSocket openClockPage(std::uint16_t port, const std::string& fields);
+WebSocket openClockPage(const program_tests::Pass& pass);
 
 inline const nlohmann::json openClock{{"kind", "tap"}, {"id", "page1.group0.row1"}};
 
@@ -35,8 +32,7 @@ class Served : public program_tests::RunningProgram {
  protected:
   /// A page that has the whole screen.
   WebSocket page() const;
-  WebSocket clockPage() const { return openClockPage(port, fields()); }
-  std::string fields() const { return filled("Cookie: {COOKIE}\r\nOrigin: {ORIGIN}\r\n"); }
+  WebSocket clockPage() const { return openClockPage(pass); }
 
   Use use() const;
   /// Waits, 10 seconds at most, until the program has no more than that many files open; how many

@@ -79,7 +79,7 @@ class TwoWriters : public Served {
 
 TEST_F(TwoWriters, LoseNothingHoweverTheyAreStopped) {
   const WebSocket first = clockPage();
-  const WebSocket second = openClockPage(other.port(), letInBy(other));
+  const WebSocket second = openClockPage(program_tests::letIn(other));
   const std::size_t each = support::inForm<std::size_t>(1'000, 5'000);
   {
     const std::jthread disturbing([&](const std::stop_token& stop) { disturb(stop); });

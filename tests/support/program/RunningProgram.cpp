@@ -4,14 +4,6 @@
 
 namespace program_tests {
 
-RunningProgram::RunningProgram() {
-  const std::string response =
-      answerTo(port, filled("GET {TOKEN} HTTP/1.1\r\nHost: {HOST}\r\nConnection: close\r\n\r\n"));
-  const std::string field = fieldOf(response, "Set-Cookie");
-  cookie = field.substr(0, field.find(';'));
-  EXPECT_NE(cookie, "") << response;
-}
-
 void RunningProgram::TearDown() {
   EXPECT_EQ(statusOf(get("/")), 200);
   program.signal(SIGTERM);
@@ -21,17 +13,15 @@ void RunningProgram::TearDown() {
 }
 
 std::string RunningProgram::get(const std::string& path) const {
-  return answerTo(port, filled("GET " + path +
+  return answerTo(port, filled("GET {HOME}" + path +
                                " HTTP/1.1\r\nHost: {HOST}\r\nCookie: {COOKIE}\r\n"
                                "Connection: close\r\n\r\n"));
 }
 
 std::string RunningProgram::filled(std::string text) const {
   const std::pair<std::string, std::string> values[] = {
-      {"{HOST}", host},
-      {"{ORIGIN}", "http://" + host},
-      {"{COOKIE}", cookie},
-      {"{TOKEN}", invitation},
+      {"{HOST}", pass.host()}, {"{ORIGIN}", pass.origin()}, {"{COOKIE}", pass.cookie},
+      {"{HOME}", pass.home},   {"{TOKEN}", invitation},
   };
   for (const auto& [name, value] : values) {
     for (std::size_t at; (at = text.find(name)) != std::string::npos;) {

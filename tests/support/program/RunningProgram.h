@@ -7,21 +7,21 @@
 
 #include "tests/support/TemporaryFolder.h"
 #include "tests/support/program/Connection.h"
+#include "tests/support/program/Pass.h"
 #include "tests/support/program/Program.h"
 
 namespace program_tests {
 
-/// The program over a new phone folder, and the cookie that its invitation gave. At the end the
+/// The program over a new phone folder, which has let a browser in. At the end the
 /// program has to answer still, and to end well.
 class RunningProgram : public testing::Test {
  protected:
-  RunningProgram();
   void TearDown() override;
 
-  /// A GET of that path with the cookie; the whole response.
+  /// A GET of that path below the home with the cookie; the whole response.
   std::string get(const std::string& path) const;
 
-  /// The text with {HOST}, {ORIGIN}, {COOKIE} and {TOKEN} replaced by what is right.
+  /// The text with {HOST}, {ORIGIN}, {COOKIE}, {HOME} and {TOKEN} replaced by what is right.
   std::string filled(std::string text) const;
 
   std::filesystem::path preferences() const {
@@ -34,8 +34,7 @@ class RunningProgram : public testing::Test {
   Program program{{arguments}};
   const std::uint16_t port = program.port();
   const std::string invitation = program.invitation();
-  const std::string host = "127.0.0.1:" + std::to_string(port);
-  std::string cookie;
+  const Pass pass = letIn(port, invitation);
 };
 
 }  // namespace program_tests

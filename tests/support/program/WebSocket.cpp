@@ -42,8 +42,8 @@ std::string frame(Opcode opcode, std::string_view payload, Final final) {
   return bytes;
 }
 
-WebSocket::WebSocket(std::uint16_t port, const std::string& fields) : connection_(port) {
-  connection_.send("GET /socket HTTP/1.1\r\nHost: 127.0.0.1:" + std::to_string(port) +
+WebSocket::WebSocket(const Pass& pass, const std::string& fields) : connection_(pass.port) {
+  connection_.send("GET " + pass.home + "/socket HTTP/1.1\r\nHost: " + pass.host() +
                    "\r\nUpgrade: websocket\r\nConnection: Upgrade\r\nSec-WebSocket-Version: 13\r\n"
                    "Sec-WebSocket-Key: dGhlIHNhbXBsZSBub25jZQ==\r\n" +
                    fields + "\r\n");

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "tests/support/program/Connection.h"
+#include "tests/support/program/Pass.h"
 
 namespace program_tests {
 
@@ -21,7 +22,8 @@ std::string frame(Opcode opcode, std::string_view payload, Final final = Final::
 class WebSocket {
  public:
   /// `fields` are further fields of the handshake, each with its line end.
-  WebSocket(std::uint16_t port, const std::string& fields);
+  WebSocket(const Pass& pass, const std::string& fields);
+  explicit WebSocket(const Pass& pass) : WebSocket(pass, pass.fields()) {}
 
   /// The status that the handshake was answered with.
   int status() const { return status_; }
