@@ -26,9 +26,9 @@ const controls = [
       clock.tap(() => knob.style.cssText, () => range.nextSibling.value);
     } },
   { race: 'enable in a list', size: 10000, row: 'Lotties', at: [0.5],
-    control: '.rows[aria-labelledby$="-1"] .control',
+    control: '.table .group:last-child .control',
     arm: () => {
-      const [enabled, disabled] = document.querySelectorAll('.rows');
+      const [enabled, disabled] = document.querySelectorAll('.table .rows');
       const cell = disabled.querySelector('.cell');
       clock.tap(() => cell.ariaBusy, () => enabled.lastElementChild?.innerText);
     } },
@@ -47,7 +47,7 @@ function finger(page, { control, at, arm }) {
     const share = at[turn++ % at.length];
     await page.evaluate(arm);
     // So that taps fall anywhere between two frames.
-    await pause(50 + Math.random() * 50);
+    await pause(30 + Math.random() * 40);
     await page.mouse.click(x + share * width, y + height / 2);
     const { isChanged, ...timed } = await page.evaluate(() => clock.tapped);
     if (!isChanged) throw new Error(`${control} shows no change`);
