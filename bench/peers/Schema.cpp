@@ -1,45 +1,16 @@
 #include "bench/peers/Schema.h"
 
-#include <fstream>
 #include <stdexcept>
 
+#include "bench/peers/SchemaFile.h"
 #include "bench/peers/Settings.h"
-#include "bench/support/Contestant.h"
 
 namespace bench {
 
 namespace {
 
-std::string keyElement(const std::string& key, const char* type, const char* standard) {
-  return "<key name='" + key + "' type='" + type + "'><default>" + standard + "</default></key>\n";
-}
-
 void check(bool done, const char* what) {
   if (!done) throw std::runtime_error(std::string("GSettings could not ") + what);
-}
-
-void compile(const std::filesystem::path& folder) {
-  const std::string path = folder;
-  const char* const command[] = {"glib-compile-schemas", path.c_str(), nullptr};
-  int status = -1;
-  const bool started =
-      g_spawn_sync(nullptr, const_cast<char**>(command), nullptr, G_SPAWN_SEARCH_PATH, nullptr,
-                   nullptr, nullptr, nullptr, &status, nullptr);
-  if (!started) throw Unavailable("glib-compile-schemas is not installed");
-  check(status == 0, "compile the schema");
-}
-
-void writeSchema(std::size_t count, const std::filesystem::path& folder) {
-  std::ofstream file(folder / (std::string(schemaName) + ".gschema.xml"));
-  file << "<schemalist>\n<schema id='" << schemaName << "' path='" << schemaPath << "'>\n";
-  forEachSetting(
-      count,
-      Puts{[&](const std::string& key, const std::string&) { file << keyElement(key, "s", "''"); },
-           [&](const std::string& key, int) { file << keyElement(key, "i", "0"); },
-           [&](const std::string& key, bool) { file << keyElement(key, "b", "false"); }});
-  file << "</schema>\n</schemalist>\n";
-  file.close();
-  compile(folder);
 }
 
 void storeAll(std::size_t count, GSettings* settings) {

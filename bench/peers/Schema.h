@@ -3,13 +3,8 @@
 #include <filesystem>
 #include <gio/gio.h>
 #include <memory>
-#include <string>
 
 namespace bench {
-
-/// What the schema and its place are called.
-inline constexpr const char* schemaName = "bench.settings";
-inline constexpr const char* schemaPath = "/bench/settings/";
 
 /// Compiles a schema of `count` settings (`forEachSetting`) in the folder, stores their values and
 /// answers them, opened anew. They are kept where `backend` keeps them, which is given away; when

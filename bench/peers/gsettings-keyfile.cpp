@@ -4,6 +4,7 @@
 
 #include "bench/peers/Home.h"
 #include "bench/peers/Schema.h"
+#include "bench/peers/SchemaFile.h"
 #include "bench/peers/Settings.h"
 #include "bench/peers/Syncs.h"
 #include "bench/support/Contestant.h"

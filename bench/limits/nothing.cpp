@@ -1,0 +1,2 @@
+/// What every command takes: a process is made, and ends.
+int main() {}

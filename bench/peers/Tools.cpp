@@ -1,0 +1,137 @@
+#include "bench/peers/Tools.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <string>
+
+#include "bench/peers/Home.h"
+#include "bench/peers/SchemaFile.h"
+#include "bench/peers/SessionBus.h"
+#include "bench/peers/Settings.h"
+#include "bench/support/Preferences.h"
+#include "plist/Document.h"
+
+namespace bench {
+
+namespace {
+
+using Folder = std::filesystem::path;
+using Kept = std::shared_ptr<void>;
+
+Kept prepareNothing(const Tool&, std::size_t, const Folder&) { return {}; }
+
+/// Stores each setting by the tool itself.
+void setEach(const Tool& tool, std::size_t size, const Folder& folder) {
+  const auto set = [&](const std::string& key, const std::string& value) {
+    commandOf(tool.set, key.c_str(), value.c_str(), folder).run();
+  };
+  forEachSetting(
+      size,
+      Puts{[&](const std::string& key, const std::string&) { set(key, "'text'"); },
+           [&](const std::string& key, int value) { set(key, std::to_string(value)); },
+           [&](const std::string& key, bool value) { set(key, value ? tool.on : tool.off); }});
+}
+
+Kept prepareHome(const Tool& tool, std::size_t size, const Folder& folder) {
+  liveIn(folder);
+  setEach(tool, size, folder);
+  return {};
+}
+
+Kept prepareSession(const Tool& tool, std::size_t size, const Folder& folder) {
+  liveIn(folder);
+  writeSchema(size, folder);
+  setenv("GSETTINGS_SCHEMA_DIR", folder.c_str(), 1);
+  setenv("GSETTINGS_BACKEND", "dconf", 1);
+  const auto bus = std::make_shared<SessionBus>();
+  setEach(tool, size, folder);
+  return bus;
+}
+
+// In XML, since not every tool reads the binary form.
+void write(const plist::Dictionary& settings, const Folder& path) {
+  std::ofstream(path, std::ios::binary) << plist::writeXml(plist::Value(settings)).value();
+}
+
+/// Our own form of the settings, and what is merged into them to turn one on and off.
+Kept writeLists(const Tool& tool, std::size_t size, const Folder& folder) {
+  liveIn(folder);
+  write(preferencesOf(size), folder / "settings.plist");
+  for (const bool value : {true, false}) {
+    plist::Dictionary one;
+    one.set(tool.key, plist::Value(value));
+    write(one, folder / (std::string(value ? tool.on : tool.off) + ".plist"));
+  }
+  return {};
+}
+
+/// The first command makes the phone.
+Kept preparePhone(const Tool& tool, std::size_t size, const Folder& folder) {
+  commandOf(tool.set, tool.key, tool.on, folder).run();
+  write(preferencesOf(size),
+        folder / "phone/var/mobile/Library/Preferences/com.orvalen.quillmere.plist");
+  return {};
+}
+
+std::string replaced(std::string line, const std::string& name, const std::string& by) {
+  for (std::size_t at = 0; (at = line.find(name, at)) != std::string::npos; at += by.size()) {
+    line.replace(at, name.size(), by);
+  }
+  return line;
+}
+
+}  // namespace
+
+const Tool nothing{QUILLMERE_NOTHING, QUILLMERE_NOTHING, "", "", "", prepareNothing};
+
+const Tool ours{QUILLMERE_SETTINGS " get KEY --root DIR/phone",
+                QUILLMERE_SETTINGS " set KEY VALUE --root DIR/phone",
+                "clockEnabled",
+                "on",
+                "off",
+                preparePhone};
+
+const Tool gsettings{"gsettings get bench.settings KEY",
+                     "gsettings set bench.settings KEY VALUE",
+                     "key00003",
+                     "true",
+                     "false",
+                     prepareSession};
+
+const Tool dconf{"dconf read /bench/settings/KEY",
+                 "dconf write /bench/settings/KEY VALUE",
+                 "key00003",
+                 "true",
+                 "false",
+                 prepareSession};
+
+const Tool kconfig{"kreadconfig5 --file DIR/settingsrc --group Settings --key KEY",
+                   "kwriteconfig5 --file DIR/settingsrc --group Settings --key KEY VALUE",
+                   "key00003",
+                   "true",
+                   "false",
+                   prepareHome};
+
+const Tool defaults{"defaults read bench.settings KEY",
+                    "defaults write bench.settings KEY VALUE",
+                    "key00003",
+                    "YES",
+                    "NO",
+                    prepareHome};
+
+const Tool plmerge{"plget KEY < DIR/settings.plist",
+                   "plmerge DIR/settings.plist DIR/VALUE.plist",
+                   "clockEnabled",
+                   "on",
+                   "off",
+                   writeLists};
+
+const Tool plistutil{
+    "plistutil -i DIR/settings.plist", nullptr, "clockEnabled", "on", "off", writeLists};
+
+Command commandOf(const char* line, const char* key, const char* value,
+                  const std::filesystem::path& folder) {
+  return Command(replaced(replaced(replaced(line, "KEY", key), "VALUE", value), "DIR", folder));
+}
+
+}  // namespace bench
