@@ -2,28 +2,70 @@
 
 namespace bench {
 
+namespace {
+
+// Those that a change waits for until it is on the disk. Dconf takes seconds for 20,000 keys.
+// SQLite writes the pages of one key alone; QSettings and the key file keep what they have once
+// loaded.
+const std::vector<Entry> durable = {
+    {.name = "GSettings, dconf", .program = "peers/dconf", .largest = 1000},
+    {"GSettings, key file", "peers/gsettings-keyfile"},
+    {"KConfig", "peers/kconfig"},
+    {"QSettings", "peers/qsettings"},
+    {"GKeyFile", "peers/keyfile"},
+    {"SQLite", "peers/sqlite"},
+    {"libplist", "peers/libplist"},
+    {"plistlib", "peers/python-plistlib"},
+};
+
+// Those that can do without; GNUstep never waits.
+const std::vector<Entry> unsynced = {
+    {"GSettings, key file", "peers/gsettings-keyfile"},
+    {"KConfig", "peers/kconfig"},
+    {"QSettings", "peers/qsettings"},
+    {"GKeyFile", "peers/keyfile"},
+    {"SQLite", "peers/sqlite"},
+    {"libplist", "peers/libplist"},
+    {"plistlib", "peers/python-plistlib"},
+    {"GNUstep dictionary", "peers/gnustep-dictionary"},
+    {"GNUstep defaults", "peers/gnustep-defaults"},
+};
+
+const std::vector<Entry> readers = {
+    {"libplist", "peers/libplist"},
+    {"GKeyFile, its own form", "peers/keyfile"},
+    {"plistlib", "peers/python-plistlib"},
+    {"GNUstep", "peers/gnustep-dictionary"},
+};
+
+}  // namespace
+
 std::span<const Race> races() {
   static const Race all[] = {
       {.name = "change",
        .what = "one setting changed, by a page's control, durable on disk (size: keys)",
        .distances = {{15, 1.10}, {1000, 1.25}, {20000, 1.5}},
        .limit = {"plain system calls", "limits/settings"},
-       .ours = {"ours", "ours/settings"}},
+       .ours = {"ours", "ours/settings"},
+       .peers = durable},
       {.name = "change-unsynced",
        .what = "the same without waiting for the disk (size: keys)",
        .distances = {{15, 1.15}, {1000, 1.5}, {20000, 2.5}},
        .limit = {"plain system calls", "limits/settings"},
-       .ours = {"ours", "ours/settings"}},
+       .ours = {"ours", "ours/settings"},
+       .peers = unsynced},
       {.name = "read-binary",
        .what = "one setting read, its file loaded anew, binary (size: keys)",
        .distances = {{15, 1.3}, {1000}, {20000}},
        .limit = {"plain system calls", "limits/settings"},
-       .ours = {"ours", "ours/settings"}},
+       .ours = {"ours", "ours/settings"},
+       .peers = readers},
       {.name = "read-xml",
        .what = "one setting read, its file loaded anew, XML (size: keys)",
        .distances = {{15, 1.6}, {1000}, {20000}},
        .limit = {"plain system calls", "limits/settings"},
-       .ours = {"ours", "ours/settings"}},
+       .ours = {"ours", "ours/settings"},
+       .peers = readers},
       {.name = "catalogue",
        .what = "the animation list made, half of the animations enabled (size: files)",
        .distances = {{100, 1.15}, {10000, 1.15}, {100000, 1.15}},
@@ -50,6 +92,34 @@ std::span<const Race> races() {
        .limit = {"plain system calls", "limits/lists"},
        .ours = {"ours", "ours/lists"},
        .peers = {{"GNUstep, unsynced", "peers/gnustep-lists"}}},
+      {.name = "start",
+       .what = "the program started, until it says where it listens",
+       .distances = {{.size = 0, .nanoseconds = 5e6}},
+       .limit = {"a bare socket", "limits/start"},
+       .ours = {"ours", "ours/start"}},
+      {.name = "get",
+       .what = "one setting got by a command, from its start to its end (size: settings)",
+       .distances = {{15}},
+       .limit = {"empty process", "peers/process", "nothing"},
+       .ours = {"ours", "peers/process", "ours-get"},
+       .peers = {{"gsettings", "peers/process", "gsettings-get"},
+                 {"dconf", "peers/process", "dconf-get"},
+                 {"kreadconfig5", "peers/process", "kconfig-get"},
+                 {"GNUstep defaults", "peers/process", "defaults-get"},
+                 {"GNUstep plget", "peers/process", "plget"},
+                 {"plistutil", "peers/process", "plistutil"}},
+       .first = true},
+      {.name = "set",
+       .what = "one setting set by a command, from its start to its end (size: settings)",
+       .distances = {{15}},
+       .limit = {"empty process", "peers/process", "nothing"},
+       .ours = {"ours", "peers/process", "ours-set"},
+       .peers = {{"gsettings", "peers/process", "gsettings-set"},
+                 {"dconf", "peers/process", "dconf-set"},
+                 {"kwriteconfig5", "peers/process", "kconfig-set"},
+                 {"GNUstep defaults, unsynced", "peers/process", "defaults-set"},
+                 {"GNUstep plmerge, unsynced", "peers/process", "plmerge"}},
+       .first = true},
   };
   return all;
 }
