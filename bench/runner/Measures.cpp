@@ -7,7 +7,15 @@
 namespace bench {
 
 std::span<const Measure> measures() {
-  static const std::vector<Measure> all = {};
+  static const std::vector<Measure> all = {
+      {"memory",
+       "memory of the program while nobody does anything, before and after its page was opened",
+       {"node", "bench/browser/memory.js", "--program", "build/bench/settings/quillmere-settings",
+        "--listen", "build/bench/bench/limits/listen"}},
+      {"bundle-size",
+       "the phone's bundle, as ./build-device makes it",
+       {"build/bench/bench/ours/sizes"}},
+  };
   return all;
 }
 
