@@ -5,7 +5,6 @@
 #include <fstream>
 #include <iterator>
 #include <spawn.h>
-#include <sstream>
 #include <stdexcept>
 #include <sys/wait.h>
 #include <system_error>
@@ -47,13 +46,12 @@ int statusOf(pid_t process) {
 
 }  // namespace
 
-Command::Command(std::string_view line) {
-  std::istringstream words{std::string(line)};
-  for (std::string word; words >> word;) {
-    if (word == "<") {
-      words >> input_;
+Command::Command(const std::vector<std::string>& words) {
+  for (auto word = words.begin(); word != words.end(); ++word) {
+    if (*word == "<") {
+      input_ = *++word;
     } else {
-      words_.push_back(word);
+      words_.push_back(*word);
     }
   }
 }

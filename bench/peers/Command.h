@@ -2,16 +2,15 @@
 
 #include <filesystem>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace bench {
 
-/// A command to be run once or many times, its words separated by spaces as in a shell: "plget key
-/// < file" has a file as its standard input.
+/// A command to be run once or many times: a program, which is looked for in PATH, and its
+/// arguments. A "<" and the path after it are no arguments, but name its standard input.
 class Command {
  public:
-  explicit Command(std::string_view line);
+  explicit Command(const std::vector<std::string>& words);
 
   /// Runs it and waits for it; what it prints goes nowhere. Throws `Unavailable` when it is not
   /// installed, `std::runtime_error` when it does not exit with 0.

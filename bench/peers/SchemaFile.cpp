@@ -26,7 +26,7 @@ void writeSchema(std::size_t count, const std::filesystem::path& folder) {
            [&](const std::string& key, bool) { file << keyElement(key, "b", "false"); }});
   file << "</schema>\n</schemalist>\n";
   file.close();
-  Command("glib-compile-schemas " + folder.native()).run();
+  Command({"glib-compile-schemas", folder}).run();
 }
 
 }  // namespace bench

@@ -2,7 +2,10 @@
 
 #include <cstdlib>
 #include <fstream>
+#include <sstream>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "bench/peers/Home.h"
 #include "bench/peers/SchemaFile.h"
@@ -73,19 +76,17 @@ Kept preparePhone(const Tool& tool, std::size_t size, const Folder& folder) {
   return {};
 }
 
-std::string replaced(std::string line, const std::string& name, const std::string& by) {
-  for (std::size_t at = 0; (at = line.find(name, at)) != std::string::npos; at += by.size()) {
-    line.replace(at, name.size(), by);
-  }
-  return line;
+void replace(std::string& word, std::string_view name, std::string_view by) {
+  const std::size_t at = word.find(name);
+  if (at != std::string::npos) word.replace(at, name.size(), by);
 }
 
 }  // namespace
 
-const Tool nothing{QUILLMERE_NOTHING, QUILLMERE_NOTHING, "", "", "", prepareNothing};
+const Tool nothing{"NOTHING", "NOTHING", "", "", "", prepareNothing};
 
-const Tool ours{QUILLMERE_SETTINGS " get KEY --root DIR/phone",
-                QUILLMERE_SETTINGS " set KEY VALUE --root DIR/phone",
+const Tool ours{"OURS get KEY --root DIR/phone",
+                "OURS set KEY VALUE --root DIR/phone",
                 "clockEnabled",
                 "on",
                 "off",
@@ -131,7 +132,21 @@ const Tool plistutil{
 
 Command commandOf(const char* line, const char* key, const char* value,
                   const std::filesystem::path& folder) {
-  return Command(replaced(replaced(replaced(line, "KEY", key), "VALUE", value), "DIR", folder));
+  std::istringstream parts{line};
+  std::vector<std::string> words;
+  for (std::string word; parts >> word; words.push_back(word)) {
+    replace(word, "KEY", key);
+    replace(word, "VALUE", value);
+    // A path comes last: it may hold any name.
+    if (word == "OURS") {
+      word = QUILLMERE_SETTINGS;
+    } else if (word == "NOTHING") {
+      word = QUILLMERE_NOTHING;
+    } else {
+      replace(word, "DIR", folder.native());
+    }
+  }
+  return Command(words);
 }
 
 }  // namespace bench

@@ -5,8 +5,8 @@
 #include "bench/support/Contestant.h"
 
 /// Foundation's dictionaries from and to property list files, as GNUstep has them. A change writes
-/// the XML form aside and renames it; nothing is synced, so it competes only where nobody waits for
-/// the disk.
+/// a text form of GNUstep's own aside and renames it; nothing is synced, so it competes only where
+/// nobody waits for the disk.
 namespace {
 
 using namespace bench;
