@@ -4,9 +4,9 @@ namespace bench {
 
 namespace {
 
-// Those that a change waits for until it is on the disk. Dconf takes seconds for 20,000 keys.
-// SQLite writes the pages of one key alone; QSettings and the key file keep what they have once
-// loaded.
+// Those that wait until what they have written is on the disk; dconf, GKeyFile, libplist and
+// plistlib, as ours, until it has its name there as well. Dconf takes seconds for 20,000 keys.
+// SQLite writes the pages of one key; QSettings and the key file keep what they have once loaded.
 const std::vector<Entry> durable = {
     {.name = "GSettings, dconf", .program = "peers/dconf", .largest = 1000},
     {"GSettings, key file", "peers/gsettings-keyfile"},
