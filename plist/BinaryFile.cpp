@@ -14,20 +14,6 @@ bool reaches(std::uint8_t size, std::uint64_t number) {
   return size == kWidest || number >> (8 * size) == 0;
 }
 
-/// The bytes that follow the first one of an object that is not counted.
-std::uint64_t fixedSize(const Object& object) {
-  switch (object.marker) {
-    case Marker::Integer:
-    case Marker::Real:
-    case Marker::Date:
-      return std::uint64_t{1} << object.low;
-    case Marker::Uid:
-      return std::uint64_t{object.low} + 1;
-    default:
-      return 0;
-  }
-}
-
 }  // namespace
 
 File::File(std::string_view bytes) {
@@ -83,28 +69,12 @@ std::uint64_t File::readLength(std::size_t& at) const {
   return length;
 }
 
-Object File::object(std::uint64_t number) const {
-  const std::size_t offset = bigEndian(table_.data() + number * offsetSize_, offsetSize_);
-  if (offset < kMagic.size() || offset >= objects_.size()) {
-    throw Unreadable("object outside the file", objects_.size() + number * offsetSize_);
-  }
-  const auto first = static_cast<std::uint8_t>(objects_[offset]);
-  Object object{Marker{static_cast<std::uint8_t>(first >> 4)},
-                static_cast<std::uint8_t>(first & 0xF),
-                offset,
-                first & 0xFU,
-                {}};
-  std::size_t at = offset + 1;
-  std::uint64_t size = fixedSize(object);
-  if (const std::uint64_t unit = unitSize_[first >> 4]; unit != 0) {
-    if (object.low == kLongLength) object.count = readLength(at);
-    // No count beyond the bytes there are is multiplied, so nothing overflows.
-    if (object.count > objects_.size()) throw Unreadable("object longer than the file", offset);
-    size = object.count * unit;
-  }
-  if (size > objects_.size() - at) throw Unreadable("object longer than the file", offset);
-  object.bytes = objects_.substr(at, size);
-  return object;
+void File::setLongBytes(Object& object, std::uint64_t unit) const {
+  std::size_t at = object.offset + 1;
+  object.count = readLength(at);
+  // No count beyond the bytes there are is multiplied, so nothing overflows.
+  if (object.count > objects_.size()) refuse("object longer than the file", object.offset);
+  setBytes(object, at, object.count * unit);
 }
 
 }  // namespace plist::binary

@@ -31,6 +31,18 @@ inline constexpr std::uint8_t kFalse = 0x8;
 inline constexpr std::uint8_t kTrue = 0x9;
 inline constexpr std::uint8_t kLongLength = 0xF;  // the length follows as an integer
 
+/// The bytes that follow the first one, by that one, of an object that is not counted; else 0.
+inline constexpr auto kFixedSize = [] {
+  std::array<std::uint16_t, 256> sizes{};
+  for (std::size_t low = 0; low < 16; ++low) {
+    for (const Marker marker : {Marker::Integer, Marker::Real, Marker::Date}) {
+      sizes[static_cast<std::size_t>(marker) << 4 | low] = static_cast<std::uint16_t>(1U << low);
+    }
+    sizes[static_cast<std::size_t>(Marker::Uid) << 4 | low] = static_cast<std::uint16_t>(low + 1);
+  }
+  return sizes;
+}();
+
 /// An object as it stands in the file.
 struct Object {
   Marker marker;
@@ -59,7 +71,22 @@ class File {
   [[nodiscard]] std::uint64_t topObject() const noexcept { return topObject_; }
 
   /// The object of that number, which is below objectCount().
-  [[nodiscard]] Object object(std::uint64_t number) const;
+  [[nodiscard]] Object object(std::uint64_t number) const {
+    const std::size_t offset = bigEndian(table_.data() + number * offsetSize_, offsetSize_);
+    if (offset < kMagic.size() || offset >= objects_.size()) {
+      refuse("object outside the file", objects_.size() + number * offsetSize_);
+    }
+    const auto first = static_cast<std::uint8_t>(objects_[offset]);
+    const auto low = static_cast<std::uint8_t>(first & 0xF);
+    const std::uint8_t unit = unitSize_[first >> 4];
+    Object object{Marker{static_cast<std::uint8_t>(first >> 4)}, low, offset, low, {}};
+    if (low == kLongLength && unit != 0) {
+      setLongBytes(object, unit);
+    } else {
+      setBytes(object, offset + 1, kFixedSize[first] + std::uint64_t{low} * unit);
+    }
+    return object;
+  }
 
   /// The number at `index` of the references that are a container's bytes.
   [[nodiscard]] std::uint64_t reference(const Object& container, std::uint64_t index) const {
@@ -72,6 +99,11 @@ class File {
  private:
   [[noreturn]] static void refuse(const char* reason, std::size_t offset);
   [[nodiscard]] std::uint64_t readLength(std::size_t& at) const;
+  void setLongBytes(Object& object, std::uint64_t unit) const;
+  void setBytes(Object& object, std::size_t at, std::uint64_t size) const {
+    if (size > objects_.size() - at) refuse("object longer than the file", object.offset);
+    object.bytes = {objects_.data() + at, size};
+  }
 
   std::string_view objects_;  // all before the table, the magic included, so offsets are the file's
   std::string_view table_;

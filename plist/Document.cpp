@@ -5,6 +5,7 @@
 
 #include "plist/BinaryFile.h"
 #include "plist/ReadBinary.h"
+#include "plist/ReadPlainXml.h"
 #include "plist/ReadXml.h"
 
 namespace plist {
@@ -17,6 +18,9 @@ Document read(std::string bytes, const Limits& limits) {
   if (bytes.size() > std::min(limits.bytes, Limits::kMostBytes)) throw Unreadable("too large");
   if (bytes.starts_with(binary::kMagic)) {
     return {readBinary(std::move(bytes), limits), Form::Binary};
+  }
+  if (std::optional<Value> plain = readPlainXml(bytes, limits)) {
+    return {*std::move(plain), Form::Xml};
   }
   return {readXml(bytes, limits), Form::Xml};
 }

@@ -1,7 +1,6 @@
 #include "plist/ReadBinary.h"
 
 #include <algorithm>
-#include <deque>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -41,6 +40,7 @@ struct Open {
   std::uint64_t textBefore = 0;
   std::uint32_t height = 1;
   Value value;
+  DictionaryNode* entries;  ///< Of a dictionary; none for an array.
 };
 
 class BinaryReader {
@@ -54,15 +54,15 @@ class BinaryReader {
 
   Value readTree() {
     count(1);
-    Value value(false);
-    read(file_.topObject(), value);
-    while (!open_.empty()) {
+    const Object top = file_.object(file_.topObject());
+    if (!isContainer(top)) return readLeaf(top, file_.topObject());
+    open(top, file_.topObject());
+    for (;;) {
       if (!readElements()) continue;
       Value whole = close();
       if (open_.empty()) return whole;
       place(open_.back(), std::move(whole));
     }
-    return value;
   }
 
  private:
@@ -95,7 +95,11 @@ class BinaryReader {
     if (open_.size() + more > limits_.depth) throw Unreadable("nested too deeply", offset);
   }
 
-  bool read(std::uint64_t number, Value& value);
+  static bool isContainer(const Object& object) {
+    return object.marker == Marker::Array || object.marker == Marker::Dictionary;
+  }
+
+  Value readLeaf(const Object& object, std::uint64_t number);
   const Value& readShared(std::uint64_t number);
   Value readKey(std::uint64_t number);
   Value readText(const Object& object, std::uint64_t number);
@@ -122,37 +126,24 @@ class BinaryReader {
   File file_;
   const Limits& limits_;
   std::vector<std::uint32_t> states_;  // by object number
-  std::deque<Known> known_;
+  std::vector<Known> known_;
   std::vector<Open> open_;
   std::uint32_t nodes_ = 0;
   std::uint64_t text_ = 0;
   std::size_t bytes_ = 0;  // of the objects so far, but for numbers
 };
 
-/// Gives `value` the object; false if it is a container that was opened only now.
-bool BinaryReader::read(std::uint64_t number, Value& value) {
-  if (states_[number] >= kOpen) {
-    value = readShared(number);
-    return true;
-  }
-  const Object object = file_.object(number);
+Value BinaryReader::readLeaf(const Object& object, std::uint64_t number) {
   switch (object.marker) {
-    case Marker::Array:
-    case Marker::Dictionary:
-      open(object, number);
-      return false;
     case Marker::Ascii:
     case Marker::Utf16:
-      value = readText(object, number);
-      return true;
+      return readText(object, number);
     case Marker::Data:
       countBytes(object, number);
       countText(object.bytes.size());
-      value = slice(Kind::Data, object);
-      return true;
+      return slice(Kind::Data, object);
     default:
-      value = binary::readScalar(object);
-      return true;
+      return binary::readScalar(object);
   }
 }
 
@@ -173,7 +164,7 @@ Value BinaryReader::readText(const Object& object, std::uint64_t number) {
   const bool ascii = object.marker == Marker::Ascii;
   if (ascii && !isAscii(object.bytes)) throw Unreadable("text beyond ASCII", object.offset);
   Value text = ascii ? slice(Kind::String, object) : convert(object.bytes);
-  const std::size_t size = text.string()->size();
+  const std::size_t size = Internals::slice(text).size();
   countText(size);
   if (!ascii || size > kShortText) remember(number, {text, size});
   return text;
@@ -215,12 +206,14 @@ void BinaryReader::open(const Object& object, std::uint64_t number) {
   const std::uint32_t before = nodes_;
   count(dictionary ? 2 * object.count : object.count);  // before any memory is set aside for them
   Value value = dictionary ? Value(Dictionary()) : Value(Array());
+  DictionaryNode* entries = nullptr;
   if (dictionary) {
-    value.dictionary()->reserve(object.count);
+    entries = &Internals::own(*value.dictionary());
+    entries->reserve(object.count);
   } else {
     value.array()->reserve(object.count);
   }
-  open_.push_back({object, number, 0, before, text_, 1, std::move(value)});
+  open_.push_back({object, number, 0, before, text_, 1, std::move(value), entries});
   states_[number] = kOpen;
 }
 
@@ -228,23 +221,30 @@ void BinaryReader::open(const Object& object, std::uint64_t number) {
 bool BinaryReader::readElements() {
   Open& parent = open_.back();
   const bool dictionary = parent.object.marker == Marker::Dictionary;
-  Value value(false);
   while (parent.next < parent.object.count) {
     const std::uint64_t index = dictionary ? parent.object.count + parent.next : parent.next;
-    if (!read(file_.reference(parent.object, index), value)) return false;
-    place(parent, std::move(value));
+    const std::uint64_t number = file_.reference(parent.object, index);
+    if (states_[number] >= kOpen) {
+      place(parent, Value(readShared(number)));
+      continue;
+    }
+    const Object object = file_.object(number);
+    if (isContainer(object)) {
+      open(object, number);
+      return false;
+    }
+    place(parent, readLeaf(object, number));
   }
   return true;
 }
 
 void BinaryReader::place(Open& parent, Value&& value) {
   const std::uint64_t index = parent.next++;
-  if (Array* const array = parent.value.array()) {
-    array->append(std::move(value));
+  if (parent.entries == nullptr) {
+    parent.value.array()->append(std::move(value));
   } else {
     // The first of two entries with one key stays.
-    Value key = readKey(file_.reference(parent.object, index));
-    Internals::own(*parent.value.dictionary()).add(std::move(key), std::move(value));
+    parent.entries->add(readKey(file_.reference(parent.object, index)), std::move(value));
   }
 }
 

@@ -120,7 +120,9 @@ class XmlReader {
   static void XMLCALL onBegin(void* user, const XML_Char* name, const XML_Char** attributes) {
     guard(user, [&](XmlReader& reader) {
       reader.checkAttributes(name, attributes);
-      reader.tree_.begin(name);
+      const std::optional<xml::Element> element = xml::elementNamed(name);
+      if (!element) throw Unreadable("unknown element");
+      reader.tree_.begin(*element);
     });
   }
   static void XMLCALL onEnd(void* user, const XML_Char*) {

@@ -6,15 +6,11 @@
 #include "plist/Document.h"
 #include "plist/Scalars.h"
 #include "plist/Text.h"
+#include "plist/XmlElements.h"
 
 namespace plist {
 namespace {
 
-constexpr std::string_view kHead =
-    "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-    "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
-    "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
-    "<plist version=\"1.0\">\n";
 constexpr std::string_view kFoot = "</plist>\n";
 
 // As the platform lays data out: 76 columns, a tab counting 8, and never more than 8 tabs. No other
@@ -38,7 +34,7 @@ class XmlWriter {
   XmlWriter(std::string& out, std::size_t most) : out_(out), most_(most) {}
 
   bool write(const Value& root) {
-    out_ += kHead;
+    out_ += xml::kHead;
     begin(root);
     while (isGood() && !open_.empty()) step();
     out_ += kFoot;

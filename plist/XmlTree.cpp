@@ -31,19 +31,22 @@ void Tree::count() {
   ++nodes_;
 }
 
-void Tree::begin(std::string_view name) {
-  const std::optional<Element> element = elementNamed(name);
-  if (!element) throw Unreadable("unknown element");
+std::optional<Element> Tree::innermost() const noexcept {
+  if (open_.empty()) return {};
+  return open_.back().container.array() ? Element::Array : Element::Dictionary;
+}
+
+void Tree::begin(Element element) {
   if (leaf_) throw Unreadable("element inside a value");
-  if (!inPlist_ || *element == Element::Plist) {
-    if (inPlist_ || *element != Element::Plist) throw Unreadable("plist is not the root alone");
+  if (!inPlist_ || element == Element::Plist) {
+    if (inPlist_ || element != Element::Plist) throw Unreadable("plist is not the root alone");
     inPlist_ = true;
     return;
   }
-  expectPlace(*element);
+  expectPlace(element);
   count();
-  if (*element == Element::Array || *element == Element::Dictionary) {
-    beginContainer(*element);
+  if (element == Element::Array || element == Element::Dictionary) {
+    beginContainer(element);
   } else {
     leaf_ = element;
     leafStart_ = text_.bytes().size();

@@ -16,12 +16,15 @@ class Tree {
  public:
   Tree(std::size_t textBytes, const Limits& limits);
 
-  void begin(std::string_view name);
+  void begin(Element element);
   void text(std::string_view text);
   void end();
 
   /// Whether an element is open in which no other markup may stand.
   [[nodiscard]] bool isInValue() const noexcept { return leaf_.has_value(); }
+
+  /// The innermost container that is open; none when only the root element is.
+  [[nodiscard]] std::optional<Element> innermost() const noexcept;
 
   /// The whole property list, after its last element has ended.
   Value take() { return std::move(*root_); }
