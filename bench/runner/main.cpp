@@ -8,6 +8,7 @@
 
 #include "bench/runner/Contest.h"
 #include "bench/runner/Measures.h"
+#include "bench/runner/Picture.h"
 #include "bench/runner/Table.h"
 
 namespace {
@@ -17,6 +18,7 @@ using namespace bench;
 struct Wish {
   std::vector<std::string> only;
   std::string json;
+  std::string picture;
   Ground ground;
 };
 
@@ -43,6 +45,8 @@ class Report {
     std::ofstream out(file);
     for (const Result& result : results_) out << toJson(result) << '\n';
   }
+
+  void draw(const std::string& file) const { bench::draw(results_, file); }
 
  private:
   std::vector<Result> results_;
@@ -89,13 +93,15 @@ std::string rows() {
 }  // namespace
 
 int main(int argc, char** argv) try {
-  Wish wish{.only = {}, .json = {}, .ground = {"build/bench/bench", "build/bench/races"}};
+  Wish wish{.only = {}, .json = {}, .picture = {}, .ground = {"build/bench/bench", "build/bench/races"}};
   CLI::App app(
       "Measures how fast the program is, beside others and beside what the machine allows.",
       "bench/run");
   app.footer(rows());
   app.add_option("--only", wish.only, "Only this row; may be given again")->type_name("NAME");
   app.add_option("--json", wish.json, "Also writes the results there, a line of JSON each")
+      ->type_name("FILE");
+  app.add_option("--picture", wish.picture, "Also draws how time grows with size, as SVG")
       ->type_name("FILE");
   CLI11_PARSE(app, argc, argv);
 
@@ -104,6 +110,7 @@ int main(int argc, char** argv) try {
   runRaces(wish, report);
   runMeasures(wish, report);
   if (!wish.json.empty()) report.write(wish.json);
+  if (!wish.picture.empty()) report.draw(wish.picture);
   return report.allHolds() ? EXIT_SUCCESS : EXIT_FAILURE;
 } catch (const std::exception& failure) {
   std::cerr << "bench/run: " << failure.what() << '\n';
