@@ -1,15 +1,14 @@
 #include "settings/CommandQueue.h"
 
 #include <boost/asio/error.hpp>
-#include <cerrno>
 #include <stdexcept>
 #include <string_view>
-#include <sys/mman.h>
 #include <system_error>
 #include <unistd.h>
 #include <utility>
 
 #include "desktop/Complaint.h"
+#include "desktop/MemoryFile.h"
 
 namespace settings {
 
@@ -18,23 +17,8 @@ using desktop::Process;
 
 namespace {
 
-std::system_error failure(const char* what) { return {errno, std::generic_category(), what}; }
-
-/// A file without a name that holds `text`, to be read from its beginning.
-Descriptor fileWith(std::string_view text) {
-  Descriptor file(memfd_create("input", MFD_CLOEXEC));
-  if (file.number() < 0) throw failure("memfd_create");
-  while (!text.empty()) {
-    const ssize_t written = ::write(file.number(), text.data(), text.size());
-    if (written < 0) throw failure("write");
-    text.remove_prefix(static_cast<std::size_t>(written));
-  }
-  if (lseek(file.number(), 0, SEEK_SET) != 0) throw failure("lseek");
-  return file;
-}
-
 Process processFor(const std::string& command, const CommandQueue::Input& input) {
-  const Descriptor text = fileWith(input.text);
+  const Descriptor text = desktop::memoryFile(input.text);
   Process::Command shell{"/bin/sh", {"-c", command, "sh"}, text.number(), STDERR_FILENO, {}, {}};
   shell.arguments.insert(shell.arguments.end(), input.arguments.begin(), input.arguments.end());
   return Process(shell);

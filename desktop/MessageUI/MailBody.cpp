@@ -77,8 +77,9 @@ void MailBody::askToCancel() {
 void MailBody::store(const std::string& folder, MFMailComposeResult result) {
   if (isFinished_) return;
   Phone& phone = Phone::current();
-  const std::string text = format(message);
+  std::string text;
   try {
+    text = format(message);
     put(folder, text);
   } catch (const std::system_error& failure) {
     const std::string reason = failure.code().message();

@@ -26,6 +26,7 @@ struct MimeMessage {
 /// The message as it travels (RFC 5322 and 2045 to 2047), dated now; its lines end in CR LF,
 /// the last one too. Nothing that a text holds gets out of its own field. Recipients that are not
 /// well-formed, as in a draft, stand in the field X-Unfinished-To instead.
+/// Written by a program of its own (desktop/mail); throws `std::system_error` when that fails.
 std::string format(const MimeMessage& message);
 
 }  // namespace desktop
