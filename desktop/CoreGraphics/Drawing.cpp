@@ -21,6 +21,9 @@ constexpr double finest = 1.0 / 256;
 /// the context for good.
 constexpr double mostIntoOne = 32767;
 
+/// The widest and highest surface that Cairo makes.
+constexpr double longest = 32767;
+
 bool canStretch(cairo_t& context, cairo_surface_t& pixels, const platform::CGRect& rect) {
   auto [width, height] = rect.size;
   cairo_user_to_device_distance(&context, &width, &height);
@@ -55,6 +58,19 @@ std::uint32_t bounded(std::uint32_t pixel) {
   return alpha << 24 | channel(16) | channel(8) | channel(0);
 }
 
+}  // namespace
+
+bool isBearable(double width, double height) {
+  // Written so that what is no number fails.
+  return width >= 1 && height >= 1 && width <= longest && height <= longest &&
+         width * height <= maximumPixels;
+}
+
+Surface makeSurface(int width, int height) {
+  Surface surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
+  return cairo_surface_status(surface.get()) == CAIRO_STATUS_SUCCESS ? std::move(surface) : nullptr;
+}
+
 void boundColors(cairo_surface_t& pixels) {
   cairo_surface_flush(&pixels);
   unsigned char* row = cairo_image_surface_get_data(&pixels);
@@ -66,13 +82,6 @@ void boundColors(cairo_surface_t& pixels) {
     row += cairo_image_surface_get_stride(&pixels);
   }
   cairo_surface_mark_dirty(&pixels);
-}
-
-}  // namespace
-
-Surface makeSurface(int width, int height) {
-  Surface surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
-  return cairo_surface_status(surface.get()) == CAIRO_STATUS_SUCCESS ? std::move(surface) : nullptr;
 }
 
 Surface copyOf(cairo_surface_t& pixels) {

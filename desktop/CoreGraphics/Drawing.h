@@ -10,12 +10,19 @@ namespace desktop {
 /// three to a point.
 inline constexpr double maximumPixels = 4'000'000;
 
+/// Whether a picture may have that many pixels in each direction: some, `maximumPixels` in all, and
+/// no more than Cairo can number.
+bool isBearable(double width, double height);
+
 /// A transparent surface of premultiplied ARGB, in pixels; null when it cannot be made.
 Surface makeSurface(int width, int height);
 
 /// A copy of a surface as premultiplied ARGB, in which no color is stronger than its alpha; null
 /// when it cannot be made.
 Surface copyOf(cairo_surface_t& pixels);
+
+/// Makes no color stronger than its alpha, as filters that sharpen may have left them.
+void boundColors(cairo_surface_t& pixels);
 
 /// Whether a rectangle has an area, and lies where the context can draw.
 bool canDraw(cairo_t& context, const platform::CGRect& rect);

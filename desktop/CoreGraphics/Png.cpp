@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <cstring>
 #include <new>
+#include <zlib.h>
 
 #include "desktop/CoreGraphics/Drawing.h"
 
@@ -22,16 +23,42 @@ std::uint32_t numberAt(std::string_view bytes, std::size_t place) {
   return number;
 }
 
-/// Asked before anything is decoded: a small file may announce, and unpack to, any size.
-bool isBearable(std::string_view bytes) {
+/// The size that the file announces; none when that is unbearable. A small file may announce,
+/// and unpack to, any size.
+std::optional<PngSize> announcedSize(std::string_view bytes) {
   constexpr std::size_t widthPlace = opening.size();
   constexpr std::size_t heightPlace = widthPlace + sizeof(std::uint32_t);
   if (!bytes.starts_with(opening) || bytes.size() < heightPlace + sizeof(std::uint32_t)) {
-    return false;
+    return std::nullopt;
   }
   const double width = numberAt(bytes, widthPlace);
   const double height = numberAt(bytes, heightPlace);
-  return width * height <= maximumPixels;
+  if (!isBearable(width, height)) return std::nullopt;
+  return PngSize{static_cast<int>(width), static_cast<int>(height)};
+}
+
+/// Takes a chunk off the front of `rest`: its name and what it holds. None when its check sum is
+/// of something else, or it is cut off.
+std::optional<std::string_view> takeChunk(std::string_view& rest) {
+  constexpr std::size_t field = sizeof(std::uint32_t);
+  if (rest.size() < 3 * field || numberAt(rest, 0) > rest.size() - 3 * field) return std::nullopt;
+  const std::string_view chunk = rest.substr(field, field + numberAt(rest, 0));
+  const std::uint32_t sum = numberAt(rest, field + chunk.size());
+  rest.remove_prefix(2 * field + chunk.size());
+  if (crc32_z(0, reinterpret_cast<const Bytef*>(chunk.data()), chunk.size()) != sum) {
+    return std::nullopt;
+  }
+  return chunk;
+}
+
+/// Whether each chunk up to the last is there, and is what was written.
+bool isWhole(std::string_view bytes) {
+  constexpr std::size_t signatureSize = 8;
+  bytes.remove_prefix(signatureSize);
+  while (const auto chunk = takeChunk(bytes)) {
+    if (chunk->starts_with("IEND")) return true;
+  }
+  return false;
 }
 
 cairo_status_t take(void* rest, unsigned char* target, unsigned int size) {
@@ -53,8 +80,13 @@ cairo_status_t append(void* file, const unsigned char* bytes, unsigned int size)
 
 }  // namespace
 
+std::optional<PngSize> sizeOfPng(std::string_view bytes) {
+  const auto size = announcedSize(bytes);
+  return size && isWhole(bytes) ? size : std::nullopt;
+}
+
 Surface readPng(std::string_view bytes) {
-  if (!isBearable(bytes)) return nullptr;
+  if (!announcedSize(bytes)) return nullptr;
   Surface decoded(cairo_image_surface_create_from_png_stream(&take, &bytes));
   if (cairo_surface_status(decoded.get()) != CAIRO_STATUS_SUCCESS) return nullptr;
   // Pictures without transparency are decoded without alpha.

@@ -101,10 +101,9 @@ void CALayer::setCornerRadius(double radius) {
 
 void CALayer::renderInContext(const CGContext& context) const {
   send<LayerBody>(*this, "renderInContext:", {context}, [&](const LayerBody& self) {
-    const auto* target = desktop::bodyAs<desktop::ContextBody>(context);
-    if (!target || !target->cairo()) return;
-    const desktop::SavedState state(*target->cairo());
-    desktop::drawView(*target->cairo(), self.view());
+    auto* target = desktop::bodyAs<desktop::ContextBody>(context);
+    if (!target) return;
+    target->drawNow([&](cairo_t& cairo) { desktop::drawView(cairo, self.view()); });
   });
 }
 

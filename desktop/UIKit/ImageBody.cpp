@@ -10,25 +10,23 @@ unsigned lastNumber = 0;
 
 }  // namespace
 
-ImageBody::ImageBody(Surface pixels, double pixelsToAPoint,
+ImageBody::ImageBody(std::shared_ptr<const Raster> raster, double pixelsToAPoint,
                      platform::UIImageRenderingMode renderingMode)
     : number(++lastNumber),
       scale(pixelsToAPoint),
       mode(renderingMode),
-      pixels_(std::move(pixels)) {}
+      raster_(std::move(raster)) {}
 
 platform::CGSize ImageBody::size() const {
-  return {cairo_image_surface_get_width(pixels_.get()) / scale,
-          cairo_image_surface_get_height(pixels_.get()) / scale};
+  return {raster_->width / scale, raster_->height / scale};
 }
 
 platform::UIImage ImageBody::inMode(platform::UIImageRenderingMode renderingMode) const {
-  Surface shared(cairo_surface_reference(pixels_.get()));
-  return make<platform::UIImage, ImageBody>(std::move(shared), scale, renderingMode);
+  return make<platform::UIImage, ImageBody>(raster_, scale, renderingMode);
 }
 
 const std::string& ImageBody::png() const {
-  if (png_.empty()) png_ = writePng(*pixels_);
+  if (png_.empty()) png_ = writePng(raster_->surface());
   return png_;
 }
 

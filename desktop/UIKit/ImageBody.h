@@ -1,9 +1,10 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "desktop/Body.h"
-#include "desktop/UIKit/Cairo.h"
+#include "desktop/UIKit/Raster.h"
 #include "platform/CoreGraphics/CGGeometry.h"
 #include "platform/UIKit/UIImage.h"
 
@@ -12,10 +13,9 @@ namespace desktop {
 /// A picture. Never changes after it was made.
 class ImageBody : public Body {
  public:
-  /// Takes over `pixels`, an image surface of premultiplied ARGB, of which `pixelsToAPoint` make a
-  /// point in each direction.
+  /// `pixelsToAPoint` of the raster's pixels make a point in each direction.
   ImageBody(
-      Surface pixels, double pixelsToAPoint,
+      std::shared_ptr<const Raster> raster, double pixelsToAPoint,
       platform::UIImageRenderingMode renderingMode = platform::UIImageRenderingMode::Automatic);
 
   std::string_view className() const override { return "UIImage"; }
@@ -26,8 +26,8 @@ class ImageBody : public Body {
   /// The same pixels in another mode.
   platform::UIImage inMode(platform::UIImageRenderingMode renderingMode) const;
 
-  /// The surface, for drawing.
-  cairo_surface_t& pixels() const { return *pixels_; }
+  /// The pixels, for drawing.
+  const std::shared_ptr<const Raster>& raster() const { return raster_; }
 
   /// The picture as a PNG file, in its own colours; made when it is asked for first.
   const std::string& png() const;
@@ -39,7 +39,7 @@ class ImageBody : public Body {
   const platform::UIImageRenderingMode mode;
 
  private:
-  Surface pixels_;
+  std::shared_ptr<const Raster> raster_;
   mutable std::string png_;
 };
 

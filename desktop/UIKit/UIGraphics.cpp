@@ -1,6 +1,7 @@
 #include "platform/UIKit/UIGraphics.h"
 
 #include <cmath>
+#include <memory>
 
 #include "desktop/CoreGraphics/Drawing.h"
 #include "desktop/CoreGraphics/Geometry.h"
@@ -10,36 +11,51 @@
 
 namespace desktop {
 
-namespace {
-
-/// Null for what has no pixels, or too many.
-Surface surfaceOf(const platform::CGSize& size, double scale) {
-  const double width = std::ceil(size.width * scale);
-  const double height = std::ceil(size.height * scale);
-  // Written so that what is no number fails.
-  if (!(width >= 1 && height >= 1 && width * height <= maximumPixels)) return nullptr;
-  return makeSurface(static_cast<int>(width), static_cast<int>(height));
+Surface ContextBody::Sheet::drawn() const {
+  Surface surface = makeSurface(width, height);
+  if (!surface) return nullptr;
+  const Context context(cairo_create(surface.get()));
+  cairo_scale(context.get(), scale, scale);
+  for (const Drawing& each : drawings) each(*context);
+  boundColors(*surface);
+  return surface;
 }
 
-}  // namespace
-
 ContextBody::ContextBody(const platform::CGSize& size, platform::Opaque opaque,
-                         double pixelsToAPoint)
-    : scale_(pixelsToAPoint), pixels_(surfaceOf(size, pixelsToAPoint)) {
-  if (!pixels_) return;
-  cairo_.reset(cairo_create(pixels_.get()));
-  if (opaque == platform::Opaque::Yes) cairo_paint(cairo_.get());
-  cairo_scale(cairo_.get(), scale_, scale_);
+                         double pixelsToAPoint) {
+  const double width = std::ceil(size.width * pixelsToAPoint);
+  const double height = std::ceil(size.height * pixelsToAPoint);
+  if (!isBearable(width, height)) return;
+  sheet_ = {static_cast<int>(width), static_cast<int>(height), pixelsToAPoint, {}};
+  if (opaque == platform::Opaque::Yes) draw([](cairo_t& context) { cairo_paint(&context); });
+}
+
+void ContextBody::draw(Drawing drawing) {
+  if (!sheet_.isEmpty()) sheet_.drawings.push_back(std::move(drawing));
+}
+
+void ContextBody::drawNow(const Drawing& drawing) {
+  if (sheet_.isEmpty()) return;
+  const auto layer = std::make_shared<const Raster>(
+      Sheet{sheet_.width, sheet_.height, sheet_.scale, {drawing}}.drawn());
+  draw([layer](cairo_t& context) {
+    const SavedState state(context);
+    cairo_identity_matrix(&context);
+    cairo_set_source_surface(&context, &layer->surface(), 0, 0);
+    cairo_paint(&context);
+  });
 }
 
 platform::UIImage ContextBody::picture() const {
-  Surface copy = pixels_ ? copyOf(*pixels_) : nullptr;
-  return copy ? make<platform::UIImage, ImageBody>(std::move(copy), scale_) : platform::UIImage();
+  if (sheet_.isEmpty()) return {};
+  auto raster = std::make_shared<const Raster>(sheet_.width, sheet_.height,
+                                               [sheet = sheet_] { return sheet.drawn(); });
+  return make<platform::UIImage, ImageBody>(std::move(raster), sheet_.scale);
 }
 
-cairo_t* currentContext() {
+ContextBody* currentContext() {
   const auto& contexts = Phone::current().contexts;
-  return contexts.empty() ? nullptr : bodyAs<ContextBody>(contexts.back())->cairo();
+  return contexts.empty() ? nullptr : bodyAs<ContextBody>(contexts.back());
 }
 
 }  // namespace desktop

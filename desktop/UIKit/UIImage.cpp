@@ -1,5 +1,7 @@
 #include "platform/UIKit/UIImage.h"
 
+#include <memory>
+#include <optional>
 #include <system_error>
 
 #include "desktop/CoreGraphics/Drawing.h"
@@ -13,14 +15,19 @@ namespace platform {
 
 using desktop::Argument;
 using desktop::ImageBody;
+using desktop::Raster;
 using desktop::send;
 
 namespace {
 
-desktop::Surface surfaceAt(const std::string& path) {
+/// Null for what is no picture.
+std::shared_ptr<const Raster> rasterAt(const std::string& path) {
   try {
-    const auto bytes = desktop::Phone::current().folder.read(path);
-    return bytes ? desktop::readPng(*bytes) : nullptr;
+    auto bytes = desktop::Phone::current().folder.read(path);
+    const auto size = bytes ? desktop::sizeOfPng(*bytes) : std::nullopt;
+    if (!size) return nullptr;
+    return std::make_shared<const Raster>(
+        size->width, size->height, [bytes = *std::move(bytes)] { return desktop::readPng(bytes); });
   } catch (const std::system_error&) {
     return nullptr;  // What cannot be read is no picture.
   }
@@ -40,9 +47,9 @@ double scaleNamedBy(std::string_view path) {
 UIImage UIImage::imageWithContentsOfFile(const NSString& path) {
   return desktop::sendClass("UIImage", "imageWithContentsOfFile:", {path}, [&] {
     const std::string file = path.UTF8String();
-    desktop::Surface surface = surfaceAt(file);
-    if (!surface) return UIImage();
-    return desktop::make<UIImage, ImageBody>(std::move(surface), scaleNamedBy(file));
+    auto raster = rasterAt(file);
+    if (!raster) return UIImage();
+    return desktop::make<UIImage, ImageBody>(std::move(raster), scaleNamedBy(file));
   });
 }
 
@@ -54,8 +61,11 @@ UIImage UIImage::imageWithRenderingMode(UIImageRenderingMode mode) const {
 void UIImage::drawInRect(const CGRect& rect) const {
   send<ImageBody>(*this, "drawInRect:", {Argument(desktop::text(rect))},
                   [&](const ImageBody& self) {
-                    cairo_t* context = desktop::currentContext();
-                    if (context) desktop::drawStretched(*context, self.pixels(), rect);
+                    if (auto* context = desktop::currentContext()) {
+                      context->draw([raster = self.raster(), rect](auto& cairo) {
+                        desktop::drawStretched(cairo, raster->surface(), rect);
+                      });
+                    }
                   });
 }
 

@@ -44,10 +44,10 @@ void ImageViewBody::drawContent(_cairo& context) const {
   if (!picture) return;
   const CGRect place = placeOf(picture->size(), frame.size, contentMode);
   if (picture->mode != platform::UIImageRenderingMode::AlwaysTemplate) {
-    return drawStretched(context, picture->pixels(), place);
+    return drawStretched(context, picture->raster()->surface(), place);
   }
   const auto* color = bodyAs<ColorBody>(tint);
-  drawShape(context, picture->pixels(), place, color ? *color : systemTint);
+  drawShape(context, picture->raster()->surface(), place, color ? *color : systemTint);
 }
 
 }  // namespace desktop

@@ -1,4 +1,6 @@
+#include <cstdint>
 #include <gtest/gtest.h>
+#include <zlib.h>
 
 #include "desktop/CoreGraphics/Png.h"
 #include "tests/desktop/PhoneTest.h"
@@ -92,6 +94,33 @@ TEST_F(ImageFilesTest, WhatIsDamagedNeverDoesHarm) {
       EXPECT_TRUE(!loaded || pixelsOf(loaded) == pixelsOf(picture)) << place;
     }
   }
+}
+
+/// A file whose pixels are damaged, and whose check sums say that this is what was written.
+std::string writtenWrong(std::string png) {
+  constexpr std::size_t field = 4;
+  const std::size_t name = png.find("IDAT");
+  const std::size_t end = png.find("IEND") - 2 * field;
+  png[name + field] = static_cast<char>(~png[name + field]);
+  const auto* chunk = reinterpret_cast<const Bytef*>(png.data() + name);
+  const auto sum = static_cast<std::uint32_t>(crc32(0, chunk, static_cast<uInt>(end - name)));
+  for (std::size_t byte = 0; byte < field; ++byte) {
+    png[end + byte] = static_cast<char>(sum >> (8 * (field - 1 - byte)));
+  }
+  return png;
+}
+
+TEST_F(ImageFilesTest, WhatWasWrittenWrongShowsNothing) {
+  const UIImage loaded = load(writtenWrong(png));
+  ASSERT_TRUE(loaded);
+  EXPECT_EQ(bodyOf(loaded).size(), platform::CGSizeMake(12, 8));
+  EXPECT_EQ(pixelsOf(loaded), pixelsOf(makePicture(12, 8, 1, transparent)));
+}
+
+TEST_F(ImageFilesTest, WhatWasLoadedStaysWhenTheFileGoes) {
+  const UIImage loaded = load(png);
+  std::filesystem::remove(host("/picture.png"));
+  EXPECT_EQ(pixelsOf(loaded), pixelsOf(picture));
 }
 
 TEST_F(ImageFilesTest, WhatIsNoPngIsNoPicture) {

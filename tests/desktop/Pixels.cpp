@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <memory>
 #include <stdexcept>
 
 namespace desktop_tests {
@@ -19,7 +20,8 @@ platform::UIImage makePicture(int width, int height, double scale,
     row += cairo_image_surface_get_stride(surface.get());
   }
   cairo_surface_mark_dirty(surface.get());
-  return desktop::make<platform::UIImage, desktop::ImageBody>(std::move(surface), scale);
+  return desktop::make<platform::UIImage, desktop::ImageBody>(
+      std::make_shared<const desktop::Raster>(std::move(surface)), scale);
 }
 
 platform::UIImage makePicture(int width, int height, double scale, Pixel color) {
@@ -42,7 +44,7 @@ Pixels pixelsOf(cairo_surface_t* surface) {
 }
 
 Pixels pixelsOf(const platform::UIImage& picture) {
-  return picture ? pixelsOf(&bodyOf(picture).pixels()) : Pixels();
+  return picture ? pixelsOf(&bodyOf(picture).raster()->surface()) : Pixels();
 }
 
 const desktop::ImageBody& bodyOf(const platform::UIImage& picture) {
