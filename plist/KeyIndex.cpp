@@ -20,7 +20,8 @@ std::uint64_t word(const char* bytes, std::size_t count) noexcept {
 }
 
 std::uint64_t randomWord() {
-  std::random_device source;
+  // From the system: the processor's own randomness is slow to ask for where it runs a guest.
+  std::random_device source("getentropy");
   return (std::uint64_t{source()} << 32) | source() | 1;
 }
 

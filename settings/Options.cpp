@@ -97,9 +97,8 @@ bool takes(const SubCommand& command, const Flag& flag) {
   return std::ranges::find(command.flags, flag.name) != command.flags.end();
 }
 
-void addSubCommand(CLI::App& app, const SubCommand& command, Options& options) {
-  CLI::App& parser = *parserOf(app, command);
-  cli::Request& request = options.request;
+/// What the sub-command takes.
+void addOwn(CLI::App& parser, const SubCommand& command, cli::Request& request) {
   for (const SubCommand::Argument& argument : command.arguments) {
     parser
         .add_option_function<std::string>(
@@ -111,10 +110,16 @@ void addSubCommand(CLI::App& app, const SubCommand& command, Options& options) {
   for (const Flag& flag : cli::flags()) {
     if (takes(command, flag)) parser.add_flag(flag.name, request.*flag.part, flag.meaning);
   }
-  parser.callback([&] { options.subCommand = &command; });
   parser.footer(std::string("Example: ") + programName + ' ' + command.example +
                 "\n\nThe options of " + programName +
                 ", --root and others, may stand before or behind as well.");
+}
+
+void addSubCommand(CLI::App& app, const SubCommand& command, Options& options) {
+  CLI::App& parser = *parserOf(app, command);
+  // Once it is named: of the others nothing is asked.
+  parser.preparse_callback([&](std::size_t) { addOwn(parser, command, options.request); });
+  parser.callback([&] { options.subCommand = &command; });
 }
 
 /// Throws `CLI::ValidationError` for options that do not go with what is to be done.

@@ -91,7 +91,9 @@ bool holdsPhone(const fs::path& folder) {
 void setUpPhone(const desktop::PhoneFolder& folder) {
   const bool isNew = !isPhone(folder) || folder.exists(unfinished);
   if (isNew) folder.makeLink(unfinished, ".");
-  for (const char* path : folders) folder.makeFolders(path);
+  for (const char* path : folders) {
+    if (!folder.exists(path)) folder.makeFolders(path);
+  }
   sweep(folder);
   folder.makeLink("/User", "var/mobile");
   // A copy that followed links has two folders instead: pages and service would part ways.
