@@ -15,6 +15,9 @@ std::span<const Measure> measures() {
       {"bundle-size",
        "the phone's bundle, as ./build-device makes it",
        {"build/bench/bench/ours/sizes"}},
+      {"rescale-quality",
+       "how near a picture of 1024 x 1024 pixels, scaled to 120 points, is to what vips makes",
+       {"build/bench/bench/ours/picture-quality", "build/bench/bench/picture-quality"}},
   };
   return all;
 }
