@@ -116,12 +116,14 @@ class Drawing {
   void line(const std::vector<std::pair<double, double>>& points, Color of, double width) {
     color(of);
     cairo_set_line_width(cairo_.get(), width);
+    cairo_new_path(cairo_.get());
     for (const auto& [x, y] : points) cairo_line_to(cairo_.get(), x, y);
     cairo_stroke(cairo_.get());
   }
 
   void dot(double x, double y, Color of) {
     color(of);
+    cairo_new_path(cairo_.get());
     cairo_arc(cairo_.get(), x, y, 2, 0, 2 * M_PI);
     cairo_fill(cairo_.get());
   }
@@ -170,9 +172,9 @@ void drawAxes(Drawing& drawing, const Axis& sizes, const Axis& times) {
 }
 
 /// Where the names stand beside the ends of their lines: in the lines' order, none over another.
-std::vector<double> namePlaces(const std::vector<double>& ends) {
+std::vector<double> namePlaces(const std::vector<std::pair<double, double>>& ends) {
   std::multimap<double, std::size_t> order;
-  for (std::size_t i = 0; i < ends.size(); ++i) order.emplace(ends[i], i);
+  for (std::size_t i = 0; i < ends.size(); ++i) order.emplace(ends[i].second, i);
   const double all = lineOfText * static_cast<double>(ends.size());
   std::vector<double> places(ends.size());
   double free = top;
@@ -196,7 +198,7 @@ void drawPanel(Drawing& drawing, const Panel& panel) {
   }
   drawing.text(left, top - 14, panel.race, ink);
   drawAxes(drawing, sizes, times);
-  std::vector<double> ends;
+  std::vector<std::pair<double, double>> ends(panel.lines.size());
   for (std::size_t i = panel.lines.size(); i-- > 0;) {
     std::vector<std::pair<double, double>> way;
     for (const Point& point : panel.lines[i].points) {
@@ -205,13 +207,13 @@ void drawPanel(Drawing& drawing, const Panel& panel) {
     }
     drawing.line(way, colorOf(i), i == 1 ? 2.2 : 1.1);
     for (const auto& [x, y] : way) drawing.dot(x, y, colorOf(i));
-    ends.insert(ends.begin(), way.back().second);
+    ends[i] = way.back();
   }
   const std::vector<double> places = namePlaces(ends);
   for (std::size_t i = 0; i < panel.lines.size(); ++i) {
-    const double x = left + plotWidth;
-    drawing.line({{x + 4, ends[i]}, {x + 16, places[i]}}, rule, 0.5);
-    drawing.text(x + 19, places[i] + 3.5, panel.lines[i].contestant, colorOf(i));
+    const double x = left + plotWidth + 12;
+    drawing.line({{ends[i].first + 4, ends[i].second}, {x, places[i]}}, colorOf(i), 0.4);
+    drawing.text(x + 3, places[i] + 3.5, panel.lines[i].contestant, colorOf(i));
   }
 }
 
