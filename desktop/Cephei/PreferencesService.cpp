@@ -95,8 +95,12 @@ void PreferencesService::keep(const std::string& domain, Domain& state, const st
 
 std::optional<plist::Value> PreferencesService::value(const std::string& domain,
                                                       const std::string& key) {
-  settle(domain);
-  return answers_[domain][key] = valueIn(load(domain), key);
+  Domain state = load(domain);
+  if (state.pending && !state.pending->empty()) {
+    settle(domain);
+    state = load(domain);
+  }
+  return answers_[domain][key] = valueIn(std::move(state), key);
 }
 
 bool PreferencesService::answersAreOutdated() const {
