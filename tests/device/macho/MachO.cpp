@@ -84,6 +84,15 @@ std::vector<LoadCommand> loadCommandsOf(const Path& file) {
   return commands;
 }
 
+std::set<std::string> sectionsOf(const Path& file) {
+  std::set<std::string> names;
+  for (const std::string& line : ask(file, "--private-headers")) {
+    const std::vector<std::string> words = wordsOf(line);
+    if (words.size() == 2 && words[0] == "sectname") names.insert(words[1]);
+  }
+  return names;
+}
+
 std::map<std::string, bool> librariesOf(const Path& file) {
   std::map<std::string, bool> libraries;
   for (const LoadCommand& command : loadCommandsOf(file)) {

@@ -19,6 +19,9 @@ std::set<std::string> headerOf(const std::filesystem::path& file);
 using LoadCommand = std::map<std::string, std::string>;
 std::vector<LoadCommand> loadCommandsOf(const std::filesystem::path& file);
 
+/// The names of the sections, as in "__text".
+std::set<std::string> sectionsOf(const std::filesystem::path& file);
+
 /// The libraries' install names, and whether each may be missing.
 std::map<std::string, bool> librariesOf(const std::filesystem::path& file);
 
