@@ -22,6 +22,11 @@ struct Buffer {
     if (references.fetch_sub(count, std::memory_order_acq_rel) == count) delete this;
   }
 
+  /// Whether more than one value holds it.
+  [[nodiscard]] bool isShared() const noexcept {
+    return references.load(std::memory_order_acquire) != 1;
+  }
+
   std::string bytes;  ///< Grows only while its one reader fills it.
   std::atomic<std::uint32_t> references{1};
 

@@ -69,6 +69,7 @@ struct Internals {
 
   static Kind kind(const Value& value) noexcept { return value.kind(); }
   static std::uint64_t bits(const Value& value) noexcept { return value.payload_.bits; }
+  static Buffer* buffer(const Value& value) noexcept { return value.payload_.buffer; }
   static std::string_view slice(const Value& value) noexcept {
     return {value.payload_.buffer->bytes.data() + value.offset_, value.tag_ & kMaxSize};
   }

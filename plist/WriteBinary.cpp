@@ -8,6 +8,7 @@
 #include "plist/BinaryFile.h"
 #include "plist/Document.h"
 #include "plist/Nodes.h"
+#include "plist/SharedPlaces.h"
 #include "plist/Text.h"
 
 namespace plist {
@@ -128,7 +129,8 @@ class Numbering {
 
  private:
   void add(const Value& value) {
-    references.push_back(isShared(value) ? share(value) : next(value));
+    const bool isNew = !SharedPlaces::isShared(value) || places_.isNext(value);
+    references.push_back(isNew ? next(value) : share(value));
   }
 
   std::uint32_t next(const Value& value) {
@@ -143,45 +145,15 @@ class Numbering {
     const std::size_t most = std::max(2 * references.capacity(), references.size() + count);
     references.reserve(most);
     objects.reserve(most + 1);
-    if (index_.holds(most)) return;
-    index_ = KeyIndex::withRoomFor(most);
-    for (std::uint32_t number = 0; number < objects.size(); ++number) {
-      if (!isShared(*objects[number])) continue;
-      index_.slot(hash(*objects[number]), [](std::uint32_t) { return false; }) = number + 1;
-    }
   }
 
-  /// What values share in memory they share in the file, so that a small file that stands for many
-  /// values stays small when it is read, changed and written.
   std::uint32_t share(const Value& value) {
-    std::uint32_t& slot = index_.slot(hash(value), [&](std::uint32_t number) {
-      const Value& other = *objects[number];
-      return Internals::kind(other) == Internals::kind(value) && place(other) == place(value);
-    });
+    std::uint32_t& slot = places_.slot(value, objects);
     if (slot == KeyIndex::kFree) slot = next(value) + 1;
     return slot - 1;
   }
 
-  /// A container that only one place holds is come by once, unless it stands in one that is shared
-  /// itself, which is gone through once.
-  static bool isShared(const Value& value) {
-    const Kind kind = Internals::kind(value);
-    if (kind < Kind::Array) return kind >= Kind::String;
-    const Node* const node = Internals::node(value);
-    return node != nullptr && node->isShared();
-  }
-
-  /// Where text, data or a container is in memory, and how many bytes of text or data.
-  static std::pair<const void*, std::size_t> place(const Value& value) {
-    if (Internals::kind(value) >= Kind::Array) return {Internals::node(value), 0};
-    const std::string_view bytes = Internals::slice(value);
-    return {bytes.data(), bytes.size()};
-  }
-  static std::uint64_t hash(const Value& value) {
-    return keyHash(reinterpret_cast<std::uintptr_t>(place(value).first));
-  }
-
-  KeyIndex index_;  // numbers of what is shared
+  SharedPlaces places_;
 };
 
 /// Fills a file whose size is known from the start, objects and table side by side.

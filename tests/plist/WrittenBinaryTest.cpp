@@ -1,5 +1,6 @@
 #include <cmath>
 #include <gtest/gtest.h>
+#include <set>
 
 #include "plist/Document.h"
 #include "tests/plist/Build.h"
@@ -94,6 +95,46 @@ TEST(WrittenBinary, TextSharedInMemoryIsSharedInTheFile) {
   Array array;
   for (int i = 0; i < 100; ++i) array.append(text);
   EXPECT_LT(writeBinary(Value(array)).size(), 1400U);
+}
+
+// Arrays of references to "a", "", "bb" and data, in every order in which three come, the same one
+// more than once as well: each stands in the file once, as it does in the one that was read.
+TEST(WrittenBinary, TextOfOneFileIsSharedInWhateverOrderItComes) {
+  for (char first = 1; first <= 4; ++first) {
+    for (char second = 1; second <= 4; ++second) {
+      for (char third = 1; third <= 4; ++third) {
+        const std::string file =
+            samples::binaryFile({"\xA4" + std::string{first, second, third, first},
+                                 "\x51"
+                                 "a",
+                                 "\x50",
+                                 "\x52"
+                                 "bb",
+                                 "\x41"
+                                 "c"});
+        const std::size_t unused = 4 - std::set{first, second, third}.size();
+        const Value root = read(file).root;
+        const std::string written = writeBinary(root);
+        EXPECT_EQ(read(written).root, root);
+        EXPECT_LE(written.size() + 2 * unused, file.size()) << +first << +second << +third;
+      }
+    }
+  }
+}
+
+// A change leaves the text of the file in order, but for one that comes from elsewhere.
+TEST(WrittenBinary, ChangedTextIsSharedWithItselfAndNothingElse) {
+  Document document = read(samples::binaryFile({"\xA2\1\2",
+                                                "\x51"
+                                                "a",
+                                                "\x51"
+                                                "b"}));
+  const Value added = Value::string("c");
+  Array& array = *document.root.array();
+  for (int i = 0; i < 3; ++i) array.append(added);
+  const std::string written = writeBinary(document.root);
+  EXPECT_EQ(read(written).root, document.root);
+  EXPECT_EQ(written.size(), 8 + 6 + 3 * 2 + 4 + 32U);
 }
 
 TEST(WrittenBinary, ContainersSharedInMemoryAreSharedInTheFile) {
