@@ -1,6 +1,8 @@
 #include "plist/Array.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <memory>
 #include <utility>
 
@@ -64,6 +66,23 @@ void Array::insert(std::size_t index, Value value) {
 void Array::erase(std::size_t index) {
   ArrayNode& node = own();
   node.items.erase(at(node, index));
+}
+
+void Array::eraseIf(const std::function<bool(const Value&)>& isDoomed) {
+  const Value* const first = std::find_if(begin(), end(), isDoomed);
+  if (first == end()) return;
+  if (!node_->isShared()) {
+    std::vector<Value>& items = node_->items;
+    items.erase(std::remove_if(at(*node_, static_cast<std::size_t>(first - begin())), items.end(),
+                               isDoomed),
+                items.end());
+    return;
+  }
+  Array kept;
+  kept.reserve(size());
+  std::copy(begin(), first, std::back_inserter(kept.node_->items));
+  std::remove_copy_if(first, end(), std::back_inserter(kept.node_->items), isDoomed);
+  *this = std::move(kept);
 }
 
 }  // namespace plist

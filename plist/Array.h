@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 
 // Whoever looks into an array includes plist/Value.h: the elements are values.
 namespace plist {
@@ -37,6 +38,10 @@ class Array {
 
   /// Takes out the element at `index`, which must be below size().
   void erase(std::size_t index);
+
+  /// Takes out every element of which `isDoomed` is true, the others keeping their order. It may be
+  /// asked of an element more than once.
+  void eraseIf(const std::function<bool(const Value&)>& isDoomed);
 
   /// Exactly equal elements in the same order.
   friend bool operator==(const Array& left, const Array& right);

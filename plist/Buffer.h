@@ -4,22 +4,34 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <sys/single_threaded.h>
 #include <utility>
 
 namespace plist {
 
 /// Bytes that any number of values take slices of: one allocation carries all text of a file.
-/// Counted by hand, because a whole block of references can then be taken and returned at once.
+/// Counted by hand, because a whole block of references can then be taken and returned at once, and
+/// because a program of one thread need not pay for others.
 struct Buffer {
   explicit Buffer(std::string taken) noexcept : bytes(std::move(taken)) {}
   Buffer(const Buffer&) = delete;
   Buffer& operator=(const Buffer&) = delete;
 
   void retain(std::uint32_t count = 1) noexcept {
-    references.fetch_add(count, std::memory_order_relaxed);
+    if (__libc_single_threaded) {
+      references.store(left() + count, std::memory_order_relaxed);
+    } else {
+      references.fetch_add(count, std::memory_order_relaxed);
+    }
   }
   void release(std::uint32_t count = 1) noexcept {
-    if (references.fetch_sub(count, std::memory_order_acq_rel) == count) delete this;
+    if (!__libc_single_threaded) {
+      if (references.fetch_sub(count, std::memory_order_acq_rel) == count) delete this;
+    } else if (left() == count) {
+      delete this;
+    } else {
+      references.store(left() - count, std::memory_order_relaxed);
+    }
   }
 
   /// Whether more than one value holds it.
@@ -32,6 +44,8 @@ struct Buffer {
 
  private:
   ~Buffer() = default;
+
+  std::uint32_t left() const noexcept { return references.load(std::memory_order_relaxed); }
 };
 
 /// One owner's reference to a buffer, and references taken in advance for the values it makes.

@@ -83,6 +83,14 @@ struct Internals {
     return value;
   }
 
+  /// A slice of text or data; it lies inside, and shares the bytes.
+  static Value part(const Value& whole, std::uint32_t offset, std::uint32_t size) noexcept {
+    Value value(whole);
+    value.offset_ += offset;
+    value.tag_ = (value.tag_ & ~kMaxSize) | size;
+    return value;
+  }
+
   static void append(std::vector<Dictionary::Entry>& entries, Value&& key, Value&& value) {
     entries.push_back({std::move(key), std::move(value)});
   }
