@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <type_traits>
+#include <typeinfo>
 #include <utility>
 
 #include "desktop/Exception.h"
@@ -44,10 +46,21 @@ inline Body* bodyOf(const platform::Object& object) {
   return static_cast<Body*>(platform::Backend::reference(object));
 }
 
-/// The body as one of its class; null for none and for objects of other classes.
+/// The body as one of its class; null for null and for bodies of other classes. Quick for a class
+/// that is final, which needs no search for what it derives from.
+template <class T>
+T* bodyAs(Body* body) {
+  if constexpr (std::is_final_v<T>) {
+    return body && typeid(*body) == typeid(T) ? static_cast<T*>(body) : nullptr;
+  } else {
+    return dynamic_cast<T*>(body);
+  }
+}
+
+/// The same of what is behind a handle.
 template <class T>
 T* bodyAs(const platform::Object& object) {
-  return dynamic_cast<T*>(bodyOf(object));
+  return bodyAs<T>(bodyOf(object));
 }
 
 /// A handle to a new body.

@@ -32,13 +32,15 @@ class Journal {
  public:
   /// Records from now on.
   void start() { recording_ = true; }
+  bool isRecording() const { return recording_; }
   /// Forgets what was recorded.
   void clear() { lines_.clear(); }
 
   /// One line a message, as in `NSMutableDictionary setObject:1 forKey:"colorMode"`.
   const std::vector<std::string>& lines() const { return lines_; }
 
-  /// Adds a message, if the journal was started: the arguments follow the selector's colons.
+  /// Adds a message: the arguments follow the selector's colons. Who sends asks `isRecording` first,
+  /// so that silence costs nothing.
   void record(std::string_view receiver, std::string_view selector,
               std::initializer_list<Argument> arguments);
 

@@ -18,8 +18,9 @@ std::invoke_result_t<Work, T&> send(const platform::Object& receiver, std::strin
                                     std::initializer_list<Argument> arguments, Work&& work) {
   if (!receiver) return std::invoke_result_t<Work, T&>();
   Body& any = *bodyOf(receiver);
-  Phone::current().journal.record(any.className(), selector, arguments);
-  T* body = dynamic_cast<T*>(&any);
+  Journal& journal = Phone::current().journal;
+  if (journal.isRecording()) journal.record(any.className(), selector, arguments);
+  T* body = bodyAs<T>(&any);
   if (!body) {
     throw invalidArgument(std::string(any.className()) + " does not understand " +
                           std::string(selector));
@@ -31,7 +32,8 @@ std::invoke_result_t<Work, T&> send(const platform::Object& receiver, std::strin
 template <class Work>
 std::invoke_result_t<Work> sendClass(std::string_view receiver, std::string_view selector,
                                      std::initializer_list<Argument> arguments, Work&& work) {
-  Phone::current().journal.record(receiver, selector, arguments);
+  Journal& journal = Phone::current().journal;
+  if (journal.isRecording()) journal.record(receiver, selector, arguments);
   return work();
 }
 

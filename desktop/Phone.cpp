@@ -1,16 +1,8 @@
 #include "desktop/Phone.h"
 
-#include <cassert>
-
 #include "desktop/Complaint.h"
 
 namespace desktop {
-
-namespace {
-
-Phone* phoneThatIsOn = nullptr;
-
-}  // namespace
 
 Phone::Phone(const std::filesystem::path& host)
     : report([this](const std::string& line) {
@@ -19,18 +11,13 @@ Phone::Phone(const std::filesystem::path& host)
       }),
       folder(host),
       preferences(*this) {
-  assert(!phoneThatIsOn);
-  phoneThatIsOn = this;
+  assert(!on_);
+  on_ = this;
 }
 
 Phone::~Phone() {
   springBoard.shutDown();  // What is open may still call on the phone.
-  phoneThatIsOn = nullptr;
-}
-
-Phone& Phone::current() {
-  assert(phoneThatIsOn);
-  return *phoneThatIsOn;
+  on_ = nullptr;
 }
 
 }  // namespace desktop

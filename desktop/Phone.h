@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cassert>
 #include <filesystem>
 #include <functional>
 #include <set>
@@ -29,7 +30,10 @@ class Phone {
   ~Phone();
 
   /// The phone that is on.
-  static Phone& current();
+  static Phone& current() {
+    assert(on_);
+    return *on_;
+  }
 
   /// The screen's size, in points.
   static constexpr platform::CGSize screenSize{390, 844};
@@ -78,6 +82,9 @@ class Phone {
   MainQueue mainQueue;
   /// What owns its screen. Nothing is open at first.
   SpringBoard springBoard{mainQueue};
+
+ private:
+  static inline Phone* on_ = nullptr;
 };
 
 }  // namespace desktop
