@@ -7,7 +7,6 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <linux/openat2.h>
-#include <memory>
 #include <sys/file.h>
 #include <sys/random.h>
 #include <sys/stat.h>
@@ -212,16 +211,26 @@ Descriptor PhoneFolder::openFolder(std::string_view path) const {
   return open(path, O_PATH | O_DIRECTORY);
 }
 
-std::vector<std::string> PhoneFolder::list(std::string_view path) const {
-  Descriptor folder = open(path, O_RDONLY | O_DIRECTORY);
-  const std::unique_ptr<DIR, int (*)(DIR*)> entries(fdopendir(folder.number()), &closedir);
-  if (!entries) fail(path);
-  folder.release();
-  std::vector<std::string> names;
-  while (const dirent* entry = readdir(entries.get())) {
-    const std::string_view name = entry->d_name;
-    if (name != "." && name != "..") names.emplace_back(name);
+void PhoneFolder::list(std::string_view path,
+                       const std::function<void(std::string_view name)>& found) const {
+  const Descriptor folder = open(path, O_RDONLY | O_DIRECTORY);
+  alignas(dirent64) std::array<char, 1 << 16> block;
+  for (;;) {
+    const ssize_t size = getdents64(folder.number(), block.data(), block.size());
+    check(static_cast<int>(size < 0 ? -1 : 0), path);
+    if (size == 0) return;
+    for (const char* at = block.data(); at < block.data() + size;) {
+      const auto& entry = *reinterpret_cast<const dirent64*>(at);
+      const std::string_view name = entry.d_name;
+      if (name != "." && name != "..") found(name);
+      at += entry.d_reclen;
+    }
   }
+}
+
+std::vector<std::string> PhoneFolder::list(std::string_view path) const {
+  std::vector<std::string> names;
+  list(path, [&](std::string_view name) { names.emplace_back(name); });
   return names;
 }
 

@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -48,7 +49,8 @@ class PhoneFolder {
   /// nothing can be read or written through it.
   Descriptor openFolder(std::string_view path) const;
 
-  /// The names in a folder, in the folder's own order, without "." and "..".
+  /// Names each entry of a folder, in the folder's own order, but for "." and "..".
+  void list(std::string_view path, const std::function<void(std::string_view name)>& found) const;
   std::vector<std::string> list(std::string_view path) const;
 
   /// Makes the folder and those above it, where they are missing.
