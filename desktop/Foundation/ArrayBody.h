@@ -1,19 +1,18 @@
 #pragma once
 
-#include <vector>
-
 #include "desktop/Body.h"
+#include "desktop/Foundation/Elements.h"
 #include "platform/Foundation/NSArray.h"
 
 namespace desktop {
 
 /// A list of objects, of the class NSArray or NSMutableArray.
-class ArrayBody : public Body {
+class ArrayBody final : public Body {
  public:
   enum class Mutable : bool { No, Yes };
 
-  ArrayBody(std::vector<platform::Object> contents, Mutable isMutable)
-      : objects(std::move(contents)), isMutable_(isMutable) {}
+  ArrayBody(Elements contents, Mutable isMutable)
+      : elements(std::move(contents)), isMutable_(isMutable) {}
 
   std::string_view className() const override {
     return isMutable_ == Mutable::Yes ? "NSMutableArray" : "NSArray";
@@ -22,7 +21,7 @@ class ArrayBody : public Body {
   std::string description() const override;
   bool isEqual(const Body& other) const override;
 
-  std::vector<platform::Object> objects;
+  Elements elements;
 
  private:
   Mutable isMutable_;
@@ -36,6 +35,7 @@ void requireIndex(std::size_t index, std::size_t count);
 
 /// The objects of an array that is an argument; none has none. Raises
 /// `NSInvalidArgumentException` for objects of other classes.
+Elements elementsIn(const platform::NSArray& array);
 std::vector<platform::Object> objectsIn(const platform::NSArray& array);
 
 }  // namespace desktop

@@ -18,17 +18,17 @@ constexpr std::size_t mostDescribed = 20;
 
 std::string ArrayBody::description() const {
   std::string text = "(";
-  for (std::size_t index = 0; index < std::min(objects.size(), mostDescribed); ++index) {
+  for (std::size_t index = 0; index < std::min(elements.size(), mostDescribed); ++index) {
     if (index > 0) text += ", ";
-    text += desktop::debugDescription(objects[index]);
+    text += desktop::debugDescription(elements[index]);
   }
-  if (objects.size() > mostDescribed) text += ", … (" + std::to_string(objects.size()) + ")";
+  if (elements.size() > mostDescribed) text += ", … (" + std::to_string(elements.size()) + ")";
   return text + ")";
 }
 
 bool ArrayBody::isEqual(const Body& other) const {
   const auto* that = dynamic_cast<const ArrayBody*>(&other);
-  return that && std::ranges::equal(objects, that->objects,
+  return that && std::ranges::equal(elements.objects(), that->elements.objects(),
                                     [](const auto& a, const auto& b) { return a.isEqual(b); });
 }
 
@@ -42,10 +42,14 @@ void requireIndex(std::size_t index, std::size_t count) {
   }
 }
 
-std::vector<platform::Object> objectsIn(const platform::NSArray& array) {
+Elements elementsIn(const platform::NSArray& array) {
   if (!array) return {};
-  if (const auto* body = bodyAs<ArrayBody>(array)) return body->objects;
+  if (const auto* body = bodyAs<ArrayBody>(array)) return body->elements;
   throw invalidArgument(debugDescription(array) + " is no array");
+}
+
+std::vector<platform::Object> objectsIn(const platform::NSArray& array) {
+  return elementsIn(array).objects();
 }
 
 }  // namespace desktop
@@ -64,18 +68,18 @@ bool NSArray::isKind(const Object& object) {
 
 NSArray NSArray::arrayWithObjects(std::initializer_list<Object> objects) {
   std::ranges::for_each(objects, &desktop::requireObject);
-  return desktop::make<NSArray, ArrayBody>(std::vector(objects), Mutable::No);
+  return desktop::make<NSArray, ArrayBody>(desktop::Elements(std::vector(objects)), Mutable::No);
 }
 
 std::size_t NSArray::count() const {
-  return send<ArrayBody>(*this, "count", {}, [](ArrayBody& self) { return self.objects.size(); });
+  return send<ArrayBody>(*this, "count", {}, [](ArrayBody& self) { return self.elements.size(); });
 }
 
 Object NSArray::objectAtIndex(std::size_t index) const {
   return send<ArrayBody>(*this, "objectAtIndex:", {static_cast<double>(index)},
                          [&](ArrayBody& self) {
-                           desktop::requireIndex(index, self.objects.size());
-                           return self.objects[index];
+                           desktop::requireIndex(index, self.elements.size());
+                           return self.elements[index];
                          });
 }
 
@@ -83,16 +87,15 @@ NSArray NSArray::filteredArrayUsingPredicate(const NSPredicate& predicate) const
   return send<ArrayBody>(*this, "filteredArrayUsingPredicate:", {predicate}, [&](ArrayBody& self) {
     const auto* asked = desktop::bodyAs<desktop::PredicateBody>(predicate);
     if (!asked) throw desktop::invalidArgument("an array is filtered by a predicate");
-    std::vector<Object> chosen;
-    std::ranges::copy_if(self.objects, std::back_inserter(chosen),
-                         [&](const Object& object) { return asked->isTrueOf(object); });
+    desktop::Elements chosen = self.elements;
+    chosen.keepIf([&](const auto& each) { return asked->isTrueOf(each); });
     return desktop::make<NSArray, ArrayBody>(std::move(chosen), Mutable::No);
   });
 }
 
 NSMutableArray NSArray::mutableCopy() const {
   return send<ArrayBody>(*this, "mutableCopy", {}, [](ArrayBody& self) {
-    return desktop::make<NSMutableArray, ArrayBody>(self.objects, Mutable::Yes);
+    return desktop::make<NSMutableArray, ArrayBody>(self.elements, Mutable::Yes);
   });
 }
 

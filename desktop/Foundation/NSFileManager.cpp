@@ -4,7 +4,7 @@
 
 #include "desktop/Foundation/ArrayBody.h"
 #include "desktop/Message.h"
-#include "plist/Text.h"
+#include "plist/TextBlock.h"
 
 namespace platform {
 
@@ -18,20 +18,19 @@ class FileManagerBody : public desktop::Body {
   std::string_view className() const override { return "NSFileManager"; }
 };
 
-/// A file name may be any bytes here; on the phone it is text, and so are strings.
-bool isUsable(const std::string& name) {
-  if (plist::isText(name)) return true;
-  Phone::current().report("a file whose name is not UTF-8 is passed over");
-  return false;
-}
-
 NSArray namesIn(const std::string& path) {
   try {
-    std::vector<Object> names;
-    for (const std::string& name : Phone::current().folder.list(path)) {
-      if (isUsable(name)) names.push_back(NSString(std::string_view(name)));
-    }
-    return desktop::make<NSArray, desktop::ArrayBody>(std::move(names),
+    plist::TextBlock names;
+    plist::Array texts;
+    Phone::current().folder.list(path, [&](std::string_view name) {
+      // A file name may be any bytes here; on the phone it is text, and so are strings.
+      if (auto text = names.append(name)) {
+        texts.append(*std::move(text));
+      } else {
+        Phone::current().report("a file whose name is not UTF-8 is passed over");
+      }
+    });
+    return desktop::make<NSArray, desktop::ArrayBody>(desktop::Elements(std::move(texts)),
                                                       desktop::ArrayBody::Mutable::No);
   } catch (const std::system_error&) {
     return {};  // The platform answers nil here and says no more.

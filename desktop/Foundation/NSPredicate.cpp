@@ -95,10 +95,13 @@ std::optional<std::string> endingIn(std::string_view format) {
 }  // namespace
 
 bool PredicateBody::isTrueOf(const platform::Object& object) const {
-  const auto text = textIn(object);
-  if (!text)
-    throw invalidArgument(desktop::debugDescription(object) + " is no string: it has no end");
-  return text->ends_with(ending);
+  if (const auto text = textIn(object)) return text->ends_with(ending);
+  throw invalidArgument(desktop::debugDescription(object) + " is no string: it has no end");
+}
+
+bool PredicateBody::isTrueOf(const plist::Value& value) const {
+  const auto text = value.string();
+  return text ? text->ends_with(ending) : isTrueOf(box(value));
 }
 
 }  // namespace desktop

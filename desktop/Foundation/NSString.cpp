@@ -3,6 +3,7 @@
 #include "desktop/Foundation/ValueBody.h"
 #include "desktop/Foundation/Values.h"
 #include "desktop/Message.h"
+#include "plist/TextBlock.h"
 
 namespace platform {
 
@@ -55,7 +56,8 @@ NSString NSString::stringByDeletingPathExtension() const {
   return desktop::send<ValueBody>(*this, "stringByDeletingPathExtension", {}, [](ValueBody& self) {
     const auto text = self.value.string();
     if (!text) throw desktop::invalidArgument(self.debugDescription() + " is no string");
-    return NSString(withoutExtension(*text));
+    const std::string_view stem = withoutExtension(*text);
+    return desktop::make<NSString, ValueBody>(plist::part(self.value, 0, stem.size()));
   });
 }
 

@@ -3,11 +3,12 @@
 #include <string>
 
 #include "desktop/Body.h"
+#include "plist/Value.h"
 
 namespace desktop {
 
 /// Whether a text ends in a given one, compared exactly.
-class PredicateBody : public Body {
+class PredicateBody final : public Body {
  public:
   explicit PredicateBody(std::string text) : ending(std::move(text)) {}
 
@@ -16,6 +17,7 @@ class PredicateBody : public Body {
 
   /// Raises `NSInvalidArgumentException` for what is no string, as the platform's comparison does.
   bool isTrueOf(const platform::Object& object) const;
+  bool isTrueOf(const plist::Value& value) const;
 
   const std::string ending;
 };

@@ -6,7 +6,7 @@
 namespace desktop {
 
 /// A string, number, date or data: an object that never changes.
-class ValueBody : public Body {
+class ValueBody final : public Body {
  public:
   explicit ValueBody(plist::Value contents) : value(std::move(contents)) {}
 

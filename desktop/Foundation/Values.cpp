@@ -12,20 +12,6 @@ namespace desktop {
 
 namespace {
 
-platform::Object boxArray(const plist::Array& array) {
-  std::vector<platform::Object> objects;
-  objects.reserve(array.size());
-  for (const plist::Value& element : array) objects.push_back(box(element));
-  return make<platform::NSArray, ArrayBody>(std::move(objects), ArrayBody::Mutable::No);
-}
-
-plist::Value unboxArray(const ArrayBody& body) {
-  plist::Array array;
-  array.reserve(body.objects.size());
-  for (const platform::Object& object : body.objects) array.append(unbox(object));
-  return plist::Value(std::move(array));
-}
-
 /// The number of a number object, a boolean as 0 or 1; none for any other object.
 std::optional<double> numberIn(const plist::Value& value) {
   if (const auto truth = value.boolean()) return *truth ? 1 : 0;
@@ -71,7 +57,9 @@ bool meansYes(std::string_view text) {
 }  // namespace
 
 platform::Object box(const plist::Value& value) {
-  if (const plist::Array* array = value.array()) return boxArray(*array);
+  if (const plist::Array* array = value.array()) {
+    return make<platform::Object, ArrayBody>(Elements(*array), ArrayBody::Mutable::No);
+  }
   if (const plist::Dictionary* dictionary = value.dictionary()) {
     return make<platform::Object, DictionaryBody>(*dictionary, DictionaryBody::Mutable::No);
   }
@@ -80,7 +68,7 @@ platform::Object box(const plist::Value& value) {
 
 plist::Value unbox(const platform::Object& object) {
   if (const auto* scalar = bodyAs<ValueBody>(object)) return scalar->value;
-  if (const auto* array = bodyAs<ArrayBody>(object)) return unboxArray(*array);
+  if (const auto* array = bodyAs<ArrayBody>(object)) return plist::Value(array->elements.values());
   if (const auto* dictionary = bodyAs<DictionaryBody>(object)) {
     return plist::Value(dictionary->dictionary);
   }

@@ -19,10 +19,9 @@ using platform::PSCellType;
 
 namespace {
 
-const std::vector<platform::Object>& objectsOf(const platform::NSArray& array) {
-  static const std::vector<platform::Object> nothing;
+std::vector<platform::Object> objectsOf(const platform::NSArray& array) {
   const auto* body = bodyAs<ArrayBody>(array);
-  return body ? body->objects : nothing;
+  return body ? body->elements.objects() : std::vector<platform::Object>();
 }
 
 /// Pushes a new page of that class.

@@ -67,7 +67,7 @@ platform::NSArray specifiersFrom(const plist::Array& items, platform::PSListCont
       rows.push_back(specifierFrom(*dictionary, target));
     }
   }
-  return make<platform::NSArray, ArrayBody>(std::move(rows), ArrayBody::Mutable::No);
+  return make<platform::NSArray, ArrayBody>(Elements(std::move(rows)), ArrayBody::Mutable::No);
 }
 
 }  // namespace

@@ -22,7 +22,7 @@ std::vector<Section> drawList(const platform::NSArray& specifiers) {
   std::vector<Section> sections;
   const auto* list = bodyAs<ArrayBody>(specifiers);
   if (!list) return sections;
-  for (const platform::Object& object : list->objects) {
+  for (const platform::Object& object : list->elements.objects()) {
     const auto* row = bodyAs<SpecifierBody>(object);
     if (!row) continue;
     if (row->cell == platform::PSCellType::PSGroupCell) {

@@ -40,8 +40,8 @@ json jsonOf(const platform::Object& object) {
 json jsonOf(const platform::NSArray& objects) {
   json list = json::array();
   const auto* body = desktop::bodyAs<desktop::ArrayBody>(objects);
-  for (std::size_t i = 0; body && i < body->objects.size(); ++i) {
-    list.push_back(jsonOf(body->objects[i]));
+  for (std::size_t i = 0; body && i < body->elements.size(); ++i) {
+    list.push_back(jsonOf(body->elements[i]));
   }
   return list;
 }

@@ -104,7 +104,7 @@ std::vector<std::string> Driver::titles() const {
 std::vector<RowFacts> Driver::rows() {
   std::vector<RowFacts> rows;
   for (const platform::Object& row :
-       bodyAs<desktop::ArrayBody>(state_->page().specifiers())->objects) {
+       bodyAs<desktop::ArrayBody>(state_->page().specifiers())->elements.objects()) {
     rows.push_back(factsOf(row));
   }
   return rows;
