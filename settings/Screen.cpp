@@ -7,6 +7,7 @@
 #include "desktop/Phone.h"
 #include "desktop/UIKit/ControllerState.h"
 #include "desktop/UIKit/NavigationItemBody.h"
+#include "settings/Moment.h"
 #include "settings/Nodes.h"
 #include "settings/Overlay.h"
 #include "settings/Table.h"
@@ -141,7 +142,10 @@ Tree Screen::tree(const Viewport& viewport, Pictures& pictures) const {
   return tree;
 }
 
-std::optional<Resource> Screen::file(std::string_view address, const Pictures& pictures) const {
+std::optional<Resource> Screen::file(std::string_view address, Pictures& pictures) const {
+  if (address == screenAddress) {
+    return Resource{"application/json", *message(screenMessage(tree({}, pictures)))};
+  }
   if (auto picture = pictures.file(address)) return picture;
   NavigationController* navigation = board_.navigation();
   if (auto attached = navigation ? attachment(*navigation, address) : std::nullopt) return attached;

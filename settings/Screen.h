@@ -17,6 +17,10 @@ namespace settings {
 /// What the tree calls the banner, which a tap puts away.
 inline constexpr std::string_view bannerId = "banner";
 
+/// The address at which the page finds the message that it will get first from its connection, to
+/// draw it while the connection is made.
+inline constexpr std::string_view screenAddress = "screen.json";
+
 /// The screen of the stand-in phone, as the browser draws it.
 class Screen {
  public:
@@ -25,9 +29,9 @@ class Screen {
   /// What is to be seen now by a browser with that in view; pictures that are new are noted.
   Tree tree(const Viewport& viewport, Pictures& pictures) const;
 
-  /// The file that what is to be seen has at that address: one of the pictures, an attachment or a
-  /// picture of the bundle; none when there is none.
-  std::optional<Resource> file(std::string_view address, const Pictures& pictures) const;
+  /// The file that what is to be seen has at that address: the first message, one of the pictures,
+  /// an attachment or a picture of the bundle; none when there is none.
+  std::optional<Resource> file(std::string_view address, Pictures& pictures) const;
 
   /// @name What of the page on top the tree calls `id`. Null when it is not, or no longer, on the
   /// screen.

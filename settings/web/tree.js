@@ -8,6 +8,8 @@ const root = 'window';
  * program says why, and nothing when the connection was lost meanwhile.
  * @typedef {{element: HTMLElement, describe?: function(HTMLElement?): void,
  *     refused?: function(string=): void}} View
+ * A kind whose views can serve one node after the other, since `update` sets all that they show,
+ * tells by `isFree(view)` when one whose node is gone may.
  */
 
 /** Keeps the elements of the page in step with the nodes that were sent. */
@@ -17,6 +19,7 @@ export class Tree {
   #nodes = new Map();
   #views = new Map();
   #touched = new Set();
+  #free = [];
 
   /**
    * @param {HTMLElement} pages where the window goes
@@ -33,14 +36,20 @@ export class Tree {
     if (kind !== 'update') for (const view of this.#views.values()) view.refused?.(reason);
     if (kind === 'screen') removed = [...this.#nodes.keys()].filter((id) => !(id in nodes));
     for (const [id, node] of Object.entries(nodes)) this.#nodes.set(id, node);
-    for (const id of removed) this.#forget(id);
+    this.#forget(new Set(removed));
     this.#render(new Set([...Object.keys(nodes), ...this.#touched]));
     this.#touched.clear();
+    this.#free = [];
   }
 
-  #forget(id) {
-    this.#nodes.delete(id);
-    this.#views.delete(id);
+  /** Views that are free go in the order in which they came, which is mostly that on the page. */
+  #forget(ids) {
+    for (const id of ids) this.#nodes.delete(id);
+    for (const [id, view] of this.#views) {
+      if (!ids.has(id)) continue;
+      this.#views.delete(id);
+      if (kinds[view.kind].isFree?.(view)) this.#free.push(view);
+    }
   }
 
   /** The window comes last: it moves pages that must be complete by then. */
@@ -55,21 +64,30 @@ export class Tree {
   #refresh(id) {
     const old = this.#views.get(id);
     const view = this.#view(id);
-    if (view === old) kinds[view.kind].update(view, this.#nodes.get(id), this.#context(id));
+    if (view === old) kinds[view.kind].update(view, this.#nodes.get(id), view.context);
     else old.element.replaceWith(view.element);
   }
 
-  /** @returns {View} the view of a node, made on first sight and when the node changed its kind */
+  /** @returns {View} the view of a node, new on first sight and when the node changed its kind */
   #view(id) {
     const node = this.#nodes.get(id);
     const known = this.#views.get(id);
     if (known?.kind === node.kind) return known;
-    const context = this.#context(id);
-    const view = Object.assign(kinds[node.kind].create(node, context), { kind: node.kind });
-    view.element.dataset.node = id;
+    const view = this.#takeFree(node.kind) ?? this.#make(node, id);
+    view.context.id = view.element.dataset.node = id;
     this.#views.set(id, view);
-    kinds[node.kind].update(view, node, context);
+    kinds[node.kind].update(view, node, view.context);
     return view;
+  }
+
+  #takeFree(kind) {
+    const at = this.#free.findIndex((view) => view.kind === kind);
+    return at < 0 ? null : this.#free.splice(at, 1)[0];
+  }
+
+  #make(node, id) {
+    const context = this.#context(id);
+    return Object.assign(kinds[node.kind].create(node, context), { kind: node.kind, context });
   }
 
   /**
@@ -77,14 +95,15 @@ export class Tree {
    * `place` is to leave alone in the container is told by a selector.
    */
   #context(id) {
-    return {
+    const context = {
       id,
-      touch: (touch, target = id) => this.#touch(id, { ...touch, id: target }),
+      touch: (touch, target = context.id) => this.#touch(context.id, { ...touch, id: target }),
       node: (other) => this.#nodes.get(other),
       view: (other) => this.#view(other),
       place: (container, ids, spared) => this.#place(container, ids, spared),
-      isTop: () => this.#nodes.get(root).children.at(-1) === id,
+      isTop: () => this.#nodes.get(root).children.at(-1) === context.id,
     };
+    return context;
   }
 
   /** The answer to a touch puts its control right, also when it left the node as it was. */

@@ -2,6 +2,7 @@ import assert from 'node:assert/strict';
 import { eventually } from './fixture/eventually.js';
 import { askPython } from './fixture/python.js';
 import { scenario } from './fixture/scenario.js';
+import { ready } from './fixture/screen.js';
 
 const most = 32 * 1024;
 const tooLong = 'The text is too long to send.';
@@ -26,7 +27,7 @@ async function intercept({ page }, alter) {
     near.onMessage((text) => alter(JSON.parse(text), { near, far }) ?? far.send(text));
   });
   await page.reload();
-  await page.getByRole('heading', { level: 1 }).waitFor();
+  await ready(page);
 }
 
 const refusal = JSON.stringify({ kind: 'refused', reason: 'not today' });

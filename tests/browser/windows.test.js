@@ -1,12 +1,13 @@
 import assert from 'node:assert/strict';
 import { eventually } from './fixture/eventually.js';
 import { scenario } from './fixture/scenario.js';
+import { ready } from './fixture/screen.js';
 
 /** A second window on the same program. */
 async function another(screen) {
   const page = await screen.newPage();
   await page.goto(`${screen.home}/`);
-  await page.getByRole('heading', { level: 1 }).waitFor();
+  await ready(page);
   return page;
 }
 

@@ -51,6 +51,13 @@ TEST_F(ResourcesTest, APictureOnTheScreenIsServed) {
   EXPECT_EQ(response["X-Content-Type-Options"], "nosniff");
 }
 
+TEST_F(ResourcesTest, TheScreenIsServedAsItsFirstMessage) {
+  const auto response = ask("screen.json");
+  EXPECT_EQ(response.result(), status::ok);
+  EXPECT_EQ(nlohmann::json::parse(response.body()),
+            settings::screenMessage(screen.tree({}, pictures)));
+}
+
 TEST_F(ResourcesTest, TheBundlesPicturesAreServed) {
   const auto response = ask("bundle/Designer@3x.png");
   EXPECT_EQ(response.result(), status::ok);

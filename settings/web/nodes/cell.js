@@ -26,7 +26,13 @@ export function create(_, context) {
 function tap(view, context, { detail: clicks }, target) {
   if (view.isBusy || clicks > 1) return;
   view.isBusy = true;
+  view.element.ariaBusy = 'true';
   context.touch({ kind: 'tap' }, target);
+}
+
+/** What is held, by the hand or by the keyboard, stays what it is until it is let go. */
+export function isFree({ element: cell }) {
+  return !cell.matches('.dragged, .carried, :active, :focus-within');
 }
 
 export function update(view, node) {
@@ -35,6 +41,7 @@ export function update(view, node) {
   const { element: cell, control, label, grip, confirm } = view;
   Object.assign(cell.dataset, { section: node.section, row: node.row, editing: node.editing });
   cell.style.setProperty('--row', node.row);
+  cell.ariaBusy = null;
   cell.ariaPosInSet = String(node.row + 1);
   setText(label, node.label);
   label.style.color = node.color;
