@@ -29,9 +29,9 @@ class SharedCount {
   SharedCount& operator=(const SharedCount&) = delete;
   ~SharedCount() { munmap(count, sizeof *count); }
 
-  std::vector<std::string> environment() const {
-    return {std::string("LD_PRELOAD=") + FAILING_ALLOCATIONS,
-            std::string(AllocationCount::variable) + "=" + file_.string()};
+  /// The program that counts there.
+  Executable executable() const {
+    return {STARVED_PROGRAM, {std::string(AllocationCount::variable) + "=" + file_.string()}};
   }
 
   AllocationCount* count;
@@ -58,7 +58,7 @@ class NoMemory : public EveryChange<Fault> {
     const auto phone = folder.path / "phone";
     rehearsal().prepare(phone);
     shared.count->failing = failing;
-    const auto made = rehearsal().attempt(phone, happening(), never, shared.environment());
+    const auto made = rehearsal().attempt(phone, happening(), never, shared.executable());
     if (failing == 0) allocations = shared.count->made;
     Verdict verdict = rehearsal().judge(phone, made.isAcknowledged);
     verdict.words += " (" + made.run.said + ")";

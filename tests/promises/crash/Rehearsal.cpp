@@ -74,10 +74,10 @@ void Rehearsal::expectTheChange() const {
 void Rehearsal::prepare(const fs::path& phone) const { copyPhone(before_, phone); }
 
 Rehearsal::Attempt Rehearsal::attempt(const fs::path& phone, const Fault& fault, std::size_t nth,
-                                      std::vector<std::string> environment) const {
+                                      Executable executable) const {
   bool isAcknowledged = false;
   Command command = commandFor(change_, phone, isAcknowledged);
-  command.environment = std::move(environment);
+  command.executable = std::move(executable);
   Run made = run(command, fault, nth);
   if (!command.meanwhile) isAcknowledged = made.exitCode == 0;
   return {isAcknowledged, std::move(made)};

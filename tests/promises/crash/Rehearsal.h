@@ -45,7 +45,7 @@ class Rehearsal {
     Run run;
   };
   Attempt attempt(const std::filesystem::path& phone, const Fault& fault, std::size_t nth,
-                  std::vector<std::string> environment = {}) const;
+                  Executable executable = {}) const;
 
   /// Judges what the attempt left, and what is there after the program was started once more.
   Verdict judge(const std::filesystem::path& phone, bool isAcknowledged) const;

@@ -29,7 +29,7 @@ constexpr std::pair<SystemCall, const char*> names[] = {
   dup2(open("/dev/null", O_RDONLY | O_CLOEXEC), STDIN_FILENO);
   dup2(output, STDOUT_FILENO);
   dup2(output, STDERR_FILENO);
-  for (const std::string& each : command.environment) putenv(const_cast<char*>(each.c_str()));
+  for (const std::string& each : command.executable.environment) putenv(const_cast<char*>(each.c_str()));
   std::vector<char*> arguments{const_cast<char*>("quillmere-settings")};
   for (const std::string& each : command.arguments) {
     arguments.push_back(const_cast<char*>(each.c_str()));
@@ -37,7 +37,7 @@ constexpr std::pair<SystemCall, const char*> names[] = {
   arguments.push_back(nullptr);
   alarm(patience);
   ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
-  execv(QUILLMERE_PROGRAM, arguments.data());
+  execv(command.executable.file, arguments.data());
   _exit(127);
 }
 

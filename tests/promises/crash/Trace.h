@@ -24,10 +24,16 @@ struct Run {
   std::string lastCall() const;
 };
 
+/// The program, and what it finds in its environment.
+struct Executable {
+  const char* file = QUILLMERE_PROGRAM;
+  std::vector<std::string> environment{};  ///< NAME=VALUE, besides what there is.
+};
+
 /// How the program is started.
 struct Command {
   std::vector<std::string> arguments;
-  std::vector<std::string> environment{};  ///< NAME=VALUE, besides what there is.
+  Executable executable{};
   /// Called in a thread of its own while the program runs, with a descriptor that gives what it
   /// says. The program is killed when this returns. With none, the program runs to its end.
   std::function<void(int output)> meanwhile{};
@@ -36,7 +42,7 @@ struct Command {
 /// No call of a run.
 constexpr std::size_t never = std::numeric_limits<std::size_t>::max();
 
-/// Runs the program, with the fault at its nth system call (from 0). The dynamic linker's calls
+/// Runs the program, with the fault at its nth system call (from 0). Calls before its main
 /// count too, those of other processes do not. A program that takes longer than 10 seconds is ended
 /// by SIGALRM.
 Run run(const Command& command, const Fault& fault = noFault, std::size_t nth = 0);

@@ -1,4 +1,4 @@
-// Loaded before the C library, this makes one allocation of a program fail.
+// As a part of a program, before the C library, this makes one of its allocations fail.
 
 #include <cerrno>
 #include <cstdlib>
