@@ -28,26 +28,44 @@ class KeyIndex {
     return index;
   }
 
-  void clear() noexcept { std::fill(slots_.begin(), slots_.end(), kFree); }
+  void clear() noexcept { std::fill(slots_.begin(), slots_.end(), Slot()); }
 
   /// The slot of the key of that hash for which `matches(position)`, or the free slot for it.
   template <typename Matches>
   std::uint32_t& slot(std::uint64_t hash, Matches&& matches) noexcept {
-    const std::size_t mask = slots_.size() - 1;
-    std::size_t at = hash & mask;
-    while (slots_[at] != kFree && !matches(slots_[at] - 1)) at = (at + 1) & mask;
-    return slots_[at];
+    Slot& found = slots_[place(hash, matches)];
+    found.tag = tagOf(hash);
+    return found.content;
   }
   template <typename Matches>
   [[nodiscard]] std::uint32_t slot(std::uint64_t hash, Matches&& matches) const noexcept {
-    return const_cast<KeyIndex*>(this)->slot(hash, matches);
+    return slots_[place(hash, matches)].content;
   }
 
   /// What a slot holds is the position and 1.
   static constexpr std::uint32_t kFree = 0;
 
  private:
-  std::vector<std::uint32_t> slots_;
+  struct Slot {
+    std::uint32_t content = kFree;
+    std::uint32_t tag = 0;  // of the hash: few other keys have to be looked at
+  };
+  static std::uint32_t tagOf(std::uint64_t hash) noexcept {
+    return static_cast<std::uint32_t>(hash >> 32);
+  }
+
+  template <typename Matches>
+  [[nodiscard]] std::size_t place(std::uint64_t hash, Matches&& matches) const noexcept {
+    const std::size_t mask = slots_.size() - 1;
+    const auto isAnother = [&](const Slot& slot) {
+      return slot.content != kFree && (slot.tag != tagOf(hash) || !matches(slot.content - 1));
+    };
+    std::size_t at = hash & mask;
+    while (isAnother(slots_[at])) at = (at + 1) & mask;
+    return at;
+  }
+
+  std::vector<Slot> slots_;
 };
 
 }  // namespace plist

@@ -24,6 +24,15 @@ class Doomed {
   Node* first_ = nullptr;
 };
 
+/// The first of `count` positions that matches, and 1.
+template <typename Matches>
+std::uint32_t findFirst(std::size_t count, const Matches& matches) {
+  for (std::uint32_t at = 0; at < count; ++at) {
+    if (matches(at)) return at + 1;
+  }
+  return KeyIndex::kFree;
+}
+
 }  // namespace
 
 void Node::release() noexcept {
@@ -52,10 +61,7 @@ std::uint32_t DictionaryNode::slot(std::string_view key) const noexcept {
     return Internals::slice(Internals::key(entries[at])) == key;
   };
   if (!index_.empty()) return index_.slot(keyHash(key), matches);
-  for (std::uint32_t at = 0; at < entries.size(); ++at) {
-    if (matches(at)) return at + 1;
-  }
-  return KeyIndex::kFree;
+  return findFirst(entries.size(), matches);
 }
 
 const Dictionary::Entry* DictionaryNode::find(std::string_view key) const noexcept {
@@ -96,6 +102,29 @@ Value* DictionaryNode::add(Value&& key, Value&& value) {
   Internals::append(entries, std::move(key), std::move(value));
   place = static_cast<std::uint32_t>(count);
   return nullptr;
+}
+
+void DictionaryNode::dropRepeated() {
+  const std::size_t count = entries.size();
+  const bool indexed = count > kUnindexed;
+  if (indexed) index_ = KeyIndex::withRoomFor(count);
+  std::size_t kept = 0;
+  for (std::size_t at = 0; at < count; ++at) {
+    const std::string_view text = Internals::slice(Internals::key(entries[at]));
+    const auto matches = [&](std::size_t earlier) {
+      return Internals::slice(Internals::key(entries[earlier])) == text;
+    };
+    if (indexed) {
+      std::uint32_t& place = index_.slot(keyHash(text), matches);
+      if (place != KeyIndex::kFree) continue;
+      place = static_cast<std::uint32_t>(kept + 1);
+    } else if (findFirst(kept, matches) != KeyIndex::kFree) {
+      continue;
+    }
+    if (kept != at) entries[kept] = std::move(entries[at]);
+    ++kept;
+  }
+  entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(kept), entries.end());
 }
 
 void DictionaryNode::erase(std::size_t position) noexcept {

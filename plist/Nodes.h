@@ -49,6 +49,9 @@ struct DictionaryNode : Node {
   /// `key` is a string.
   Value* add(Value&& key, Value&& value);
   void erase(std::size_t position) noexcept;
+  /// To be called once many entries were appended to the list as they came: of those with one key
+  /// the first stays.
+  void dropRepeated();
 
   std::vector<Dictionary::Entry> entries;
 

@@ -209,7 +209,7 @@ void BinaryReader::open(const Object& object, std::uint64_t number) {
   DictionaryNode* entries = nullptr;
   if (dictionary) {
     entries = &Internals::own(*value.dictionary());
-    entries->reserve(object.count);
+    entries->entries.reserve(object.count);
   } else {
     value.array()->reserve(object.count);
   }
@@ -243,13 +243,14 @@ void BinaryReader::place(Open& parent, Value&& value) {
   if (parent.entries == nullptr) {
     parent.value.array()->append(std::move(value));
   } else {
-    // The first of two entries with one key stays.
-    parent.entries->add(readKey(file_.reference(parent.object, index)), std::move(value));
+    Internals::append(parent.entries->entries, readKey(file_.reference(parent.object, index)),
+                      std::move(value));
   }
 }
 
 Value BinaryReader::close() {
   Open done = std::move(open_.back());
+  if (done.entries != nullptr) done.entries->dropRepeated();
   open_.pop_back();
   if (!open_.empty()) open_.back().height = std::max(open_.back().height, done.height + 1);
   remember(done.number,
