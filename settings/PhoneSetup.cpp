@@ -1,5 +1,6 @@
 #include "settings/PhoneSetup.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -33,14 +34,6 @@ constexpr const char* mailFolders[] = {
     "/var/mobile/Library/Mail/Drafts",
     "/var/mobile/Library/Mail/Outbox",
 };
-
-/// Deletes what interrupted writes left in all folders that anything is written into.
-void sweep(const desktop::PhoneFolder& folder) {
-  for (const char* path : folders) folder.sweep(path);
-  for (const char* path : mailFolders) {
-    if (folder.exists(path)) folder.sweep(path);
-  }
-}
 
 void install(const desktop::PhoneFolder& folder, std::span<const Asset> files) {
   for (const Asset& file : files) {
@@ -94,7 +87,6 @@ void setUpPhone(const desktop::PhoneFolder& folder) {
   for (const char* path : folders) {
     if (!folder.exists(path)) folder.makeFolders(path);
   }
-  sweep(folder);
   folder.makeLink("/User", "var/mobile");
   // A copy that followed links has two folders instead: pages and service would part ways.
   if (!folder.areSame("/User", "/var/mobile")) {
@@ -104,6 +96,14 @@ void setUpPhone(const desktop::PhoneFolder& folder) {
   if (!isNew) return;
   install(folder, sampleFiles());
   folder.remove(unfinished);
+}
+
+void sweepPhone(const desktop::PhoneFolder& folder) {
+  const auto sweep = [&](const char* path) {
+    if (folder.exists(path)) folder.sweep(path);
+  };
+  std::ranges::for_each(folders, sweep);
+  std::ranges::for_each(mailFolders, sweep);
 }
 
 }  // namespace settings

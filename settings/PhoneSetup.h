@@ -19,9 +19,13 @@ void requireFolder(const std::filesystem::path& folder);
 bool holdsPhone(const std::filesystem::path& folder);
 
 /// Lays the folder out like a phone's file system and installs the bundle in it, as a package
-/// would: the bundle's own files are brought up to date, what interrupted writes left is deleted,
-/// and nothing else is changed. An empty folder also gets the sample files. Throws
-/// `std::system_error`, or `std::runtime_error` when /User does not lead to /var/mobile.
+/// would: the bundle's own files are brought up to date, and nothing else is changed. An empty
+/// folder also gets the sample files. Throws `std::system_error`, or `std::runtime_error` when
+/// /User does not lead to /var/mobile.
 void setUpPhone(const desktop::PhoneFolder& folder);
+
+/// Deletes what interrupted writes left in all folders that anything is written into. Throws
+/// `std::system_error`.
+void sweepPhone(const desktop::PhoneFolder& folder);
 
 }  // namespace settings

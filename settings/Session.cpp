@@ -53,6 +53,7 @@ Session::Session(const Options& options, boost::asio::io_context& loop)
   std::optional<desktop::Descriptor> held;
   try {
     held.emplace(alone(reads ? patience.zero() : patience));
+    if (!reads) sweepPhone(phone.folder);
     setUpPhone(phone.folder);
     phone.preferences.settleAll();
   } catch (const Busy&) {

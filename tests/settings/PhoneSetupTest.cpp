@@ -76,7 +76,7 @@ TEST_F(PhoneSetupTest, DeletesWhatInterruptedWritesLeftEverywhere) {
         "/var/mobile/Library/Mail/Outbox/", "/var/mobile/Library/Preferences/"}) {
     writeBytes(host(std::string(path) + ".quillmere-aside-1"), "half");
   }
-  setUp();
+  settings::sweepPhone(desktop::PhoneFolder(folder.path));
   EXPECT_EQ(contents(), before);
 }
 
