@@ -3,6 +3,7 @@
 #include <iostream>
 #include <unistd.h>
 
+#include "desktop/FreedMemory.h"
 #include "settings/Options.h"
 #include "settings/Serve.h"
 #include "settings/cli/Run.h"
@@ -25,6 +26,7 @@ void openStandardStreams() {
 
 int main(int argc, char** argv) {
   openStandardStreams();
+  desktop::keepFreedMemory();
   std::signal(SIGPIPE, SIG_IGN);  // Nobody may be reading what is printed.
   const ParsedOptions parsed = parseOptions(argc, argv);
   if (parsed.exitCode) return *parsed.exitCode;

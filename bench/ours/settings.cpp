@@ -8,6 +8,7 @@
 #include "bench/support/Preferences.h"
 #include "desktop/Foundation/ArrayBody.h"
 #include "desktop/Foundation/PropertyListFile.h"
+#include "desktop/FreedMemory.h"
 #include "desktop/Foundation/Values.h"
 #include "desktop/Phone.h"
 #include "desktop/UIKit/ControllerState.h"
@@ -97,4 +98,7 @@ constexpr std::array cases{
 
 }  // namespace
 
-int main(int argc, char** argv) { return bench::compete(argc, argv, cases); }
+int main(int argc, char** argv) {
+  desktop::keepFreedMemory();  // As the program does.
+  return bench::compete(argc, argv, cases);
+}
