@@ -20,6 +20,8 @@ using Kind = Internals::Kind;
 
 /// ASCII text up to this length is cheaper to look at again than to remember.
 constexpr std::size_t kShortText = 256;
+/// As deep as most property lists are.
+constexpr std::size_t kUsualDepth = 4;
 /// What one allocation holds of the text that had to be converted.
 constexpr std::size_t kConvertedBlock = std::size_t{64} * 1024;
 
@@ -50,6 +52,7 @@ class BinaryReader {
     // Each object in use counts at least once.
     if (file_.objectCount() > limits.nodes) throw Unreadable("too many objects");
     states_.resize(file_.objectCount(), kUnread);
+    open_.reserve(kUsualDepth);
   }
 
   Value readTree() {
@@ -252,7 +255,8 @@ Value BinaryReader::close() {
   Open done = std::move(open_.back());
   if (done.entries != nullptr) done.entries->dropRepeated();
   open_.pop_back();
-  if (!open_.empty()) open_.back().height = std::max(open_.back().height, done.height + 1);
+  if (open_.empty()) return std::move(done.value);  // the root, which nothing refers to
+  open_.back().height = std::max(open_.back().height, done.height + 1);
   remember(done.number,
            {done.value, text_ - done.textBefore, nodes_ - done.nodesBefore, done.height});
   return std::move(done.value);

@@ -36,7 +36,8 @@ namespace {
 template <class Handle>
 Handle load(const NSString& path, Mutable isMutable) {
   try {
-    auto file = desktop::readPropertyList(desktop::Phone::current().folder, path.UTF8String());
+    auto file = desktop::readPropertyList(desktop::Phone::current().folder,
+                                          desktop::textIn(path).value_or(""));
     if (!file) return {};
     return desktop::make<Handle, DictionaryBody>(std::move(file->dictionary), isMutable,
                                                  file->form);
@@ -54,7 +55,8 @@ NSDictionary NSDictionary::dictionaryWithContentsOfFile(const NSString& path) {
 
 Object NSDictionary::objectForKey(const NSString& key) const {
   return send<DictionaryBody>(*this, "objectForKey:", {key}, [&](DictionaryBody& self) {
-    const plist::Value* value = key ? self.dictionary.find(key.UTF8String()) : nullptr;
+    const plist::Value* value =
+        key ? self.dictionary.find(desktop::textIn(key).value_or("")) : nullptr;
     return value ? desktop::box(*value) : Object();
   });
 }
@@ -73,7 +75,7 @@ NSMutableDictionary NSMutableDictionary::initWithContentsOfFile(const NSString& 
 void NSMutableDictionary::setObject(const Object& object, const NSString& key) {
   send<DictionaryBody>(*this, "setObject:forKey:", {object, key}, [&](DictionaryBody& self) {
     if (!key) throw desktop::invalidArgument("key is nil");
-    self.dictionary.set(key.UTF8String(), desktop::unbox(object));
+    self.dictionary.set(desktop::textIn(key).value_or(""), desktop::unbox(object));
   });
 }
 
