@@ -28,6 +28,7 @@ asio::awaitable<void> Client::run(Request handshake,
   socket_.set_option(beast::websocket::stream_base::timeout::suggested(beast::role_type::server));
   co_await socket_.async_accept(handshake, use_awaitable);
   socket_.text(true);
+  socket_.auto_fragment(false);
   if (!outgoing_.empty()) startWriting();
   for (beast::flat_buffer buffer;; buffer.clear()) {
     co_await socket_.async_read(buffer, use_awaitable);

@@ -23,6 +23,11 @@ export function setText(target, text) {
   if (target.textContent !== text) target.textContent = text;
 }
 
+/** Hides or shows only what is not so yet: a browser styles anew what is told once more. */
+export function setHidden(target, isHidden) {
+  if (target.hidden !== isHidden) target.hidden = isHidden;
+}
+
 /** The element that has the keyboard, also inside shadow roots. */
 export function focusedElement() {
   let focused = document.activeElement;

@@ -1,4 +1,4 @@
-import { element, setText } from '../element.js';
+import { element, setHidden, setText } from '../element.js';
 
 /** What the row's buttons are called, before the row's own label. */
 const names = { insert: 'Insert', delete: 'Delete' };
@@ -30,9 +30,9 @@ function tap(view, context, { detail: clicks }, target) {
   context.touch({ kind: 'tap' }, target);
 }
 
-/** What is held, by the hand or by the keyboard, stays what it is until it is let go. */
+/** What is held, by a hand or by the keyboard, stays what it is until it is let go. */
 export function isFree({ element: cell }) {
-  return !cell.matches('.dragged, .carried, :active, :focus-within');
+  return !cell.matches('.dragged, .carried, :active, :has(:focus-visible)');
 }
 
 export function update(view, node) {
@@ -45,11 +45,11 @@ export function update(view, node) {
   cell.ariaPosInSet = String(node.row + 1);
   setText(label, node.label);
   label.style.color = node.color;
-  control.hidden = !node.control;
+  setHidden(control, !node.control);
   control.ariaLabel = node.confirm ? 'Cancel' : `${names[node.editing]} ${node.label}`;
   control.ariaExpanded = node.editing === 'delete' ? String(Boolean(node.confirm)) : null;
   confirm.ariaLabel = `Delete ${node.label} now`;
-  grip.hidden = !node.movable;
+  setHidden(grip, !node.movable);
   grip.ariaLabel = `Reorder ${node.label}`;
 }
 
@@ -58,7 +58,7 @@ function ask({ element: cell, control, confirm }, node) {
   const isHeld = cell.contains(document.activeElement);
   const isNew = confirm.hidden && node.confirm;
   const isOver = document.activeElement === confirm && !node.confirm;
-  confirm.hidden = !node.confirm;
+  setHidden(confirm, !node.confirm);
   if (isHeld && isNew) confirm.focus({ preventScroll: true });
   if (isOver) control.focus({ preventScroll: true });
 }
