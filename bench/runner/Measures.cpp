@@ -12,6 +12,12 @@ std::span<const Measure> measures() {
        "memory of the program while nobody does anything, before and after its page was opened",
        {"node", "bench/browser/memory.js", "--program", "build/bench/settings/quillmere-settings",
         "--listen", "build/bench/bench/limits/listen"}},
+      {"browser",
+       "the page in headless Chromium beside the smallest page with a WebSocket, whose server "
+       "replaces and syncs a file of the same bytes for each tap: from the tap to the frame that "
+       "shows the answer, the first paint, and a long list being scrolled",
+       {"node", "bench/browser/run.js", "--program", "build/bench/settings/quillmere-settings",
+        "--minimal", "build/bench/bench/browser/minimal"}},
       {"bundle-size",
        "the phone's bundle, as ./build-device makes it",
        {"build/bench/bench/ours/sizes"}},
