@@ -13,6 +13,7 @@
 #include <boost/beast/websocket/rfc6455.hpp>
 #include <chrono>
 #include <list>
+#include <malloc.h>
 #include <stdexcept>
 #include <string>
 
@@ -167,6 +168,8 @@ asio::awaitable<void> Server::converse(std::shared_ptr<Client> client, Request h
     desktop::complain(std::string("a page is dropped: ") + failure.what());
   }
   clients_.erase(client);
+  // Nobody looks any more: what showing took goes back to the system (malloc_trim(3)).
+  if (clients_.empty()) malloc_trim(0);
 }
 
 void Server::touched(Client& client, std::string_view message) {

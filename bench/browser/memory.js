@@ -6,6 +6,7 @@ import { once } from 'node:events';
 import { mkdtempSync, readFileSync, rmSync } from 'node:fs';
 import { tmpdir } from 'node:os';
 import { createInterface } from 'node:readline';
+import { setTimeout } from 'node:timers/promises';
 import { parseArgs } from 'node:util';
 import { launch } from '../../tests/browser/fixture/browser.js';
 import { openPage } from './fixture/page.js';
@@ -60,6 +61,7 @@ const page = await openPage(browser, ours.address);
 await page.getByRole('link', { name: 'Clock', exact: true }).waitFor();
 await page.waitForLoadState('networkidle');
 await browser.close();
+await setTimeout(500);  // Until the program has noticed.
 report('memory-opened', 'ours', memoryOf(ours), limit);
 
 await stop(ours);
