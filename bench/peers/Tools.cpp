@@ -51,27 +51,27 @@ Kept prepareSession(const Tool& tool, std::size_t size, const Folder& folder) {
   return bus;
 }
 
-// In XML, since not every tool reads the binary form.
-void write(const plist::Dictionary& settings, const Folder& path) {
-  std::ofstream(path, std::ios::binary) << plist::writeXml(plist::Value(settings)).value();
+void write(const plist::Dictionary& settings, plist::Form form, const Folder& path) {
+  std::ofstream(path, std::ios::binary) << plist::write(plist::Value(settings), form).value();
 }
 
-/// Our own form of the settings, and what is merged into them to turn one on and off.
+/// The product's settings, and what is merged into them to turn one on and off. In XML, since not
+/// every tool reads the binary form.
 Kept writeLists(const Tool& tool, std::size_t size, const Folder& folder) {
   liveIn(folder);
-  write(preferencesOf(size), folder / "settings.plist");
+  write(preferencesOf(size), plist::Form::Xml, folder / "settings.plist");
   for (const bool value : {true, false}) {
     plist::Dictionary one;
     one.set(tool.key, plist::Value(value));
-    write(one, folder / (std::string(value ? tool.on : tool.off) + ".plist"));
+    write(one, plist::Form::Xml, folder / (std::string(value ? tool.on : tool.off) + ".plist"));
   }
   return {};
 }
 
-/// The first command makes the phone.
+/// The first command makes the phone, and the product keeps the binary form.
 Kept preparePhone(const Tool& tool, std::size_t size, const Folder& folder) {
   commandOf(tool.set, tool.key, tool.on, folder).run();
-  write(preferencesOf(size),
+  write(preferencesOf(size), plist::Form::Binary,
         folder / "phone/var/mobile/Library/Preferences/com.orvalen.quillmere.plist");
   return {};
 }
