@@ -4,9 +4,9 @@
 #include <optional>
 #include <string_view>
 
-#include "desktop/Foundation/TextSet.h"
 #include "desktop/Foundation/ValueBody.h"
 #include "desktop/Foundation/Values.h"
+#include "plist/KeyIndex.h"
 
 namespace desktop {
 
@@ -31,26 +31,36 @@ bool isEqual(const Element& element, const std::optional<std::string_view>& text
 /// Objects that are looked for by equality: texts at once, however many there are.
 class Sought {
  public:
-  explicit Sought(std::size_t count) : texts_(count) {}
+  explicit Sought(std::size_t count) : index_(plist::KeyIndex::withRoomFor(count)) {
+    texts_.reserve(count);
+  }
 
   template <class Element>
   void add(const Element& element) {
-    if (const auto text = textIn(element)) {
-      texts_.add(*text);
-    } else {
-      others_.push_back(objectOf(element));
-    }
+    const auto text = textIn(element);
+    if (!text) return others_.push_back(objectOf(element));
+    std::uint32_t& slot = index_.slot(plist::keyHash(*text), isEqualTo(*text));
+    if (slot != plist::KeyIndex::kFree) return;
+    texts_.push_back(*text);
+    slot = static_cast<std::uint32_t>(texts_.size());
   }
 
   template <class Element>
   bool contains(const Element& element) const {
-    if (const auto text = textIn(element)) return texts_.contains(*text);
+    if (const auto text = textIn(element)) {
+      return index_.slot(plist::keyHash(*text), isEqualTo(*text)) != plist::KeyIndex::kFree;
+    }
     return std::ranges::any_of(
         others_, [&](const Object& other) { return other.isEqual(objectOf(element)); });
   }
 
  private:
-  TextSet texts_;
+  auto isEqualTo(std::string_view text) const {
+    return [this, text](std::uint32_t position) { return texts_[position] == text; };
+  }
+
+  plist::KeyIndex index_;  // of the texts
+  std::vector<std::string_view> texts_;
   std::vector<Object> others_;
 };
 
@@ -80,21 +90,25 @@ plist::Array Elements::values() const {
   return taken;
 }
 
-plist::Array* Elements::valuesFor(const Object& object) {
-  auto* all = std::get_if<plist::Array>(&kept_);
-  if (all && bodyAs<ValueBody>(object)) return all;
-  if (all) kept_ = objects();
+const plist::Value* Elements::valueAmong(const Object& object) {
+  if (!std::holds_alternative<plist::Array>(kept_)) return nullptr;
+  if (const auto* body = bodyAs<ValueBody>(object)) return &body->value;
+  kept_ = objects();
   return nullptr;
 }
 
 void Elements::insert(std::size_t index, const Object& object) {
-  if (plist::Array* all = valuesFor(object)) return all->insert(index, unbox(object));
+  if (const plist::Value* value = valueAmong(object)) {
+    return std::get<plist::Array>(kept_).insert(index, *value);
+  }
   auto& all = std::get<std::vector<Object>>(kept_);
   all.insert(all.begin() + distance(index), object);
 }
 
 void Elements::replace(std::size_t index, const Object& object) {
-  if (plist::Array* all = valuesFor(object)) return all->set(index, unbox(object));
+  if (const plist::Value* value = valueAmong(object)) {
+    return std::get<plist::Array>(kept_).set(index, *value);
+  }
   std::get<std::vector<Object>>(kept_)[index] = object;
 }
 

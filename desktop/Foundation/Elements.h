@@ -57,9 +57,9 @@ class Elements {
     }
   }
 
-  /// The values, if they are kept as such and the object is one as well; else null, and from now
-  /// on all elements are kept as objects.
-  plist::Array* valuesFor(const platform::Object& object);
+  /// The object's value, if all elements are kept as values and it can be one of them; else null,
+  /// and from now on all elements are kept as objects.
+  const plist::Value* valueAmong(const platform::Object& object);
 
   std::variant<plist::Array, std::vector<platform::Object>> kept_;
 };

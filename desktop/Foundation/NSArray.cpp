@@ -62,7 +62,7 @@ using Mutable = ArrayBody::Mutable;
 
 bool NSArray::isKind(const Object& object) {
   return send<desktop::Body>(object, "isKindOfClass:", {"NSArray"}, [](desktop::Body& self) {
-    return dynamic_cast<ArrayBody*>(&self) != nullptr;
+    return desktop::bodyAs<ArrayBody>(&self) != nullptr;
   });
 }
 

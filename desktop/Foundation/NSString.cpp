@@ -1,5 +1,7 @@
 #include "platform/Foundation/NSString.h"
 
+#include <algorithm>
+
 #include "desktop/Foundation/ValueBody.h"
 #include "desktop/Foundation/Values.h"
 #include "desktop/Message.h"
@@ -20,9 +22,11 @@ std::string_view withoutTrailingSlashes(std::string_view path) {
 /// A dot that a file name begins with hides the file; it begins no extension.
 std::string_view withoutExtension(std::string_view path) {
   path = withoutTrailingSlashes(path);
-  const std::size_t name = path.rfind('/') + 1;
-  const std::size_t dot = path.rfind('.');
-  return dot == std::string_view::npos || dot <= name ? path : path.substr(0, dot);
+  const auto mark = std::find_if(path.rbegin(), path.rend(),
+                                 [](char letter) { return letter == '.' || letter == '/'; });
+  if (mark == path.rend() || *mark == '/') return path;
+  const std::string_view stem(path.begin(), mark.base() - 1);
+  return stem.empty() || stem.ends_with('/') ? path : stem;
 }
 
 }  // namespace
@@ -47,7 +51,7 @@ NSString NSString::stringWithFormat(const char* format, std::initializer_list<Ob
 bool NSString::isKind(const Object& object) {
   return desktop::send<desktop::Body>(object, "isKindOfClass:", {"NSString"},
                                       [](desktop::Body& self) {
-                                        const auto* body = dynamic_cast<ValueBody*>(&self);
+                                        const auto* body = desktop::bodyAs<ValueBody>(&self);
                                         return body && body->value.string().has_value();
                                       });
 }
