@@ -129,6 +129,24 @@ TEST(Array, AppendsInsertsSetsAndErases) {
   EXPECT_EQ(array[1].integer(), 2);
 }
 
+TEST(Array, ErasesManyAtOnceFromItselfAndNotFromACopy) {
+  Array array;
+  for (int i = 0; i < 6; ++i) array.append(Value::integer(i));
+  const auto isOdd = [](const Value& value) { return *value.integer() % 2 == 1; };
+  const Array copy = array;
+  for (const bool shared : {true, false}) {
+    EXPECT_EQ(array.size(), shared ? 6U : 3U);
+    array.eraseIf(isOdd);
+    ASSERT_EQ(array.size(), 3U);
+    array.append(Value::integer(7));
+    array.eraseIf(isOdd);
+    EXPECT_EQ(array[2].integer(), 4);
+  }
+  EXPECT_EQ(copy.size(), 6U);
+  array.eraseIf([](const Value&) { return true; });
+  EXPECT_EQ(array, Array());
+}
+
 TEST(Array, OrderCounts) {
   Array one;
   one.append(Value(true));
