@@ -64,7 +64,7 @@ platform::Object arrayHandle(NSArray* array) {
   std::vector<platform::Object> elements;
   for (id element in array) elements.push_back(handle(element));
   const bool isMutable = [array isKindOfClass:[NSMutableArray class]];
-  return desktop::make<platform::Object, ArrayBody>(std::move(elements),
+  return desktop::make<platform::Object, ArrayBody>(desktop::Elements(std::move(elements)),
                                                     ArrayBody::Mutable(isMutable));
 }
 
@@ -101,7 +101,7 @@ id scalarObject(const plist::Value& value) {
 
 id arrayObject(const desktop::ArrayBody& body) {
   NSMutableArray* elements = [NSMutableArray array];
-  for (const platform::Object& element : body.objects) [elements addObject:object(element)];
+  for (const platform::Object& element : body.elements.objects()) [elements addObject:object(element)];
   return body.className() == "NSMutableArray" ? elements : [NSArray arrayWithArray:elements];
 }
 
