@@ -30,7 +30,7 @@ class OpenedPhone {
   const settings::Tree& look();
 
   const settings::Screen& screen() const { return screen_; }
-  const settings::Pictures& pictures() const { return pictures_; }
+  settings::Pictures& pictures() { return pictures_; }
 
  private:
   void touch(const nlohmann::json& message);
