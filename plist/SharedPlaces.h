@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -19,26 +20,28 @@ class SharedPlaces {
   /// by once, unless it stands in one that is shared itself, which is gone through once.
   static bool isShared(const Value& value) noexcept;
 
-  /// Whether this is text or data that stands behind all that came before in the same buffer, so
-  /// that none of those can share with it. All of a file that was written in order does, and then
-  /// nothing has to be looked up.
-  bool isNext(const Value& value) noexcept;
+  /// Whether this is text or data that begins where none before it began, so that none of those
+  /// can share with it. As long as all of a file does, which is as good as always, nothing has to
+  /// be looked up.
+  bool isNew(const Value& value);
 
   /// Where the number of the first value that shares with this one stands, and 1; free when there
-  /// is none. `objects` are those that have numbers already. Whatever is not next has to be asked
+  /// is none. `objects` are those that have numbers already. Whatever is not new has to be asked
   /// for here, and then gets the next number.
   std::uint32_t& slot(const Value& value, const std::vector<const Value*>& objects);
 
  private:
   using Place = std::pair<const void*, std::size_t>;
   static Place placeOf(const Value& value) noexcept;
-  bool isInRun(const Value& value) const noexcept;
   void fill(const std::vector<const Value*>& objects);
 
-  const Buffer* run_ = nullptr;  // the first buffer, whose text is not in the index...
-  Place last_ = {};
-  bool isBroken_ = false;  // ...unless some of it came out of order
-  std::size_t count_ = 0;  // what the index needs room for
+  /// For each byte of a buffer whether some text or data begins there.
+  using Beginnings = std::vector<bool>;
+  std::unordered_map<const Buffer*, Beginnings> beginnings_;
+  const Buffer* latest_ = nullptr;          // the buffer that was looked into last,
+  Beginnings* latestBeginnings_ = nullptr;  // and where what begins in it
+  bool indexesText_ = false;                // since some of it was shared
+  std::size_t count_ = 0;                   // what the index needs room for
   KeyIndex index_;
 };
 

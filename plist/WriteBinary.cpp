@@ -129,7 +129,7 @@ class Numbering {
 
  private:
   void add(const Value& value) {
-    const bool isNew = !SharedPlaces::isShared(value) || places_.isNext(value);
+    const bool isNew = !SharedPlaces::isShared(value) || places_.isNew(value);
     references.push_back(isNew ? next(value) : share(value));
   }
 
