@@ -1,34 +1,51 @@
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <sys/single_threaded.h>
 #include <utility>
 
 namespace plist {
 
 /// Bytes that any number of values take slices of: one allocation carries all text of a file.
 /// Counted by hand, because a whole block of references can then be taken and returned at once, and
-/// without atomics, which every copy of a text would pay for: everything runs on one thread.
+/// because a program of one thread need not pay for others.
 struct Buffer {
   explicit Buffer(std::string taken) noexcept : bytes(std::move(taken)) {}
   Buffer(const Buffer&) = delete;
   Buffer& operator=(const Buffer&) = delete;
 
-  void retain(std::uint32_t count = 1) noexcept { references += count; }
+  void retain(std::uint32_t count = 1) noexcept {
+    if (__libc_single_threaded) {
+      references.store(left() + count, std::memory_order_relaxed);
+    } else {
+      references.fetch_add(count, std::memory_order_relaxed);
+    }
+  }
   void release(std::uint32_t count = 1) noexcept {
-    references -= count;
-    if (references == 0) delete this;
+    if (!__libc_single_threaded) {
+      if (references.fetch_sub(count, std::memory_order_acq_rel) == count) delete this;
+    } else if (left() == count) {
+      delete this;
+    } else {
+      references.store(left() - count, std::memory_order_relaxed);
+    }
   }
 
   /// Whether more than one value holds it.
-  [[nodiscard]] bool isShared() const noexcept { return references != 1; }
+  [[nodiscard]] bool isShared() const noexcept {
+    return references.load(std::memory_order_acquire) != 1;
+  }
 
   std::string bytes;  ///< Grows only while its one reader fills it.
-  std::uint32_t references = 1;
+  std::atomic<std::uint32_t> references{1};
 
  private:
   ~Buffer() = default;
+
+  std::uint32_t left() const noexcept { return references.load(std::memory_order_relaxed); }
 };
 
 /// One owner's reference to a buffer, and references taken in advance for the values it makes.
@@ -58,7 +75,7 @@ class BufferLoan {
   std::uint32_t left_ = 0;
 };
 
-/// Returns the references of many values at once for each run of one buffer.
+/// Returns the references of many values with one atomic operation for each run of one buffer.
 class BufferReturn {
  public:
   BufferReturn() = default;
