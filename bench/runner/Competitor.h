@@ -16,7 +16,8 @@ namespace bench {
 class Competitor {
  public:
   /// Starts the entry's program, lets it prepare itself in the folder (made anew), and finds out
-  /// how many operations take about 5 ms. Throws `std::runtime_error` for one that fails.
+  /// how many operations take about 5 ms. One that fails before it is ready is said, and is not
+  /// here; one that ends later throws `std::runtime_error`.
   Competitor(const Entry& entry, std::string_view task, std::size_t size,
              const std::filesystem::path& programs, const std::filesystem::path& folder);
   Competitor(const Competitor&) = delete;

@@ -4,7 +4,9 @@
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
+#include <poll.h>
 #include <spawn.h>
+#include <stdexcept>
 #include <sys/wait.h>
 #include <system_error>
 #include <unistd.h>
@@ -12,6 +14,8 @@
 namespace bench {
 
 namespace {
+
+constexpr int patience = 10 * 60 * 1000;  // milliseconds
 
 void check(int error, const std::string& what) {
   if (error != 0) throw std::system_error(error, std::generic_category(), what);
@@ -78,12 +82,23 @@ std::optional<std::string> Program::readLine() {
       read_.erase(0, end + 1);
       return line;
     }
+    awaitOutput();
     std::array<char, 4096> more;
     const ssize_t got = ::read(output_, more.data(), more.size());
     if (got < 0 && errno == EINTR) continue;
     if (got <= 0) return std::nullopt;
     read_.append(more.data(), static_cast<std::size_t>(got));
   }
+}
+
+void Program::awaitOutput() {
+  pollfd output{output_, POLLIN, 0};
+  int ready;
+  do ready = poll(&output, 1, patience);
+  while (ready < 0 && errno == EINTR);
+  if (ready != 0) return;
+  ::kill(process_, SIGKILL);
+  throw std::runtime_error("said nothing for ten minutes");
 }
 
 void Program::endInput() { closeOnce(input_); }

@@ -21,7 +21,8 @@ class Program {
   /// Sends a line. A program that has ended does not read it, which is no error here.
   void writeLine(std::string_view line);
 
-  /// The next line that it prints, waited for; none when it prints no more.
+  /// The next line that it prints, waited for; none when it prints no more. A program that says
+  /// nothing for ten minutes is killed, and throws `std::runtime_error`.
   std::optional<std::string> readLine();
 
   void endInput();
@@ -31,6 +32,8 @@ class Program {
   int wait();
 
  private:
+  void awaitOutput();
+
   pid_t process_ = -1;
   int input_ = -1;
   int output_ = -1;

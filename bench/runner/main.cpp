@@ -93,7 +93,8 @@ std::string rows() {
 }  // namespace
 
 int main(int argc, char** argv) try {
-  Wish wish{.only = {}, .json = {}, .picture = {}, .ground = {"build/bench/bench", "build/bench/races"}};
+  Wish wish{
+      .only = {}, .json = {}, .picture = {}, .ground = {"build/bench/bench", "build/bench/races"}};
   CLI::App app(
       "Measures how fast the program is, beside others and beside what the machine allows.",
       "bench/run");
