@@ -1,5 +1,5 @@
 /** How many rows beyond those in view are asked for, and how few may be left of them. */
-const margin = 30;
+const margin = 20;
 const reserve = 10;
 
 /** The most rows that the program sends. */
