@@ -10,6 +10,7 @@ constexpr std::size_t kNever = static_cast<std::size_t>(-1);
 
 std::size_t used = 0;
 std::size_t most = 0;
+std::size_t count = 0;
 std::size_t untilDenial = kNever;
 bool denied = false;
 
@@ -22,6 +23,7 @@ void* allocate(std::size_t size) {
   void* const block = std::malloc(size);
   if (block != nullptr) used += malloc_usable_size(block);
   if (used > most) most = used;
+  ++count;
   return block;
 }
 
@@ -52,10 +54,11 @@ namespace allocation {
 std::size_t inUse() { return used; }
 std::size_t peak() { return most; }
 void resetPeak() { most = used; }
+std::size_t times() { return count; }
 
-void denyAfter(std::size_t count) {
+void denyAfter(std::size_t passing) {
   denied = false;
-  untilDenial = count;
+  untilDenial = passing;
 }
 
 bool endDenial() {

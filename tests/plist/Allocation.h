@@ -12,6 +12,9 @@ std::size_t inUse();
 std::size_t peak();
 void resetPeak();
 
+/// How often memory was allocated so far.
+std::size_t times();
+
 /// Lets `count` allocations pass and denies the one after them, once.
 void denyAfter(std::size_t count);
 /// Whether one was denied since; denies no more.
