@@ -3,7 +3,7 @@ import { eventually } from './fixture/eventually.js';
 import { scenario } from './fixture/scenario.js';
 
 /** Paths below the page's own, in the order in which they were asked for. */
-const paths = (screen, addresses) => addresses.map((address) => address.slice(screen.home.length + 1));
+const paths = ({ home }, addresses) => addresses.map((address) => address.slice(home.length + 1));
 
 scenario('all that draws the root page is asked for by the page itself, at once', {},
   async (screen) => {
