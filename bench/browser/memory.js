@@ -34,7 +34,7 @@ async function stop({ child }) {
 function memoryOf({ child }) {
   const text = readFileSync(`/proc/${child.pid}/smaps_rollup`, 'utf8');
   const bytes = (name) => 1024 * Number(new RegExp(`^${name}: +(\\d+) kB$`, 'm').exec(text)[1]);
-  return { Rss: bytes('Rss'), Pss: bytes('Pss'), dirty: bytes('Private_Dirty') };
+  return { Rss: bytes('Rss'), Pss: bytes('Pss'), 'its own': bytes('Anonymous') };
 }
 
 /** Every figure, of which the resident memory is held to what is allowed. */
