@@ -31,7 +31,16 @@ async function showAtOnce() {
 }
 
 /** Lets the browser draw before it is given more to do. */
-const drawn = () => new Promise((resolve) => (window.requestIdleCallback ?? setTimeout)(resolve));
+const drawn = () => new Promise((resolve) =>
+  window.requestIdleCallback ? requestIdleCallback(resolve, { timeout: 500 }) : setTimeout(resolve));
+
+/** Begins anew as soon as the program answers, whatever it says then. */
+async function beginAnew() {
+  show('lost');
+  const answers = () => fetch('.', { cache: 'no-store' }).then(() => true, () => false);
+  while (!(await answers())) await new Promise((resolve) => setTimeout(resolve, 1000));
+  location.reload();
+}
 
 const connection = new Connection({
   received: (message) => tree.receive(message),
@@ -41,5 +50,4 @@ const tree = new Tree(document.getElementById('pages'), (touch) => connection.se
 // What is wrong when the screen cannot be had, the connection will tell.
 await showAtOnce().catch(() => {});
 await drawn();
-await bringOthers();
-connection.open();
+await bringOthers().then(() => connection.open(), beginAnew);

@@ -37,3 +37,19 @@ scenario('a page of other kinds of rows is drawn once they are there', {}, async
   await eventually(async () => assert.ok(await screen.page.locator('ion-range').count() > 0));
   await screen.pop('Quillmere');
 });
+
+scenario('a page that the program left while it loaded says so, and begins anew by itself',
+  { errors: /ERR_FAILED|Failed to load/ },
+  async (screen) => {
+    const { page } = screen;
+    let isAway = true;
+    await page.route(/others\.js$|\/[0-9a-f]{32}\/$/, (route) =>
+      isAway && route.request().resourceType() !== 'document' ? route.abort() : route.continue());
+    await page.reload();
+    await page.getByText('Connection lost').waitFor();
+    assert.ok(await page.locator('.stage').evaluate((stage) => stage.inert));
+    isAway = false;
+    await eventually(async () =>
+      assert.equal(await page.locator('.stage').evaluate((stage) => stage.inert), false));
+    await screen.push('Clock');
+  });
