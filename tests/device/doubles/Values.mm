@@ -101,7 +101,8 @@ id scalarObject(const plist::Value& value) {
 
 id arrayObject(const desktop::ArrayBody& body) {
   NSMutableArray* elements = [NSMutableArray array];
-  for (const platform::Object& element : body.elements.objects()) [elements addObject:object(element)];
+  for (const platform::Object& element : body.elements.objects())
+    [elements addObject:object(element)];
   return body.className() == "NSMutableArray" ? elements : [NSArray arrayWithArray:elements];
 }
 

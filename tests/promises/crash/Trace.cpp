@@ -29,7 +29,8 @@ constexpr std::pair<SystemCall, const char*> names[] = {
   dup2(open("/dev/null", O_RDONLY | O_CLOEXEC), STDIN_FILENO);
   dup2(output, STDOUT_FILENO);
   dup2(output, STDERR_FILENO);
-  for (const std::string& each : command.executable.environment) putenv(const_cast<char*>(each.c_str()));
+  for (const std::string& each : command.executable.environment)
+    putenv(const_cast<char*>(each.c_str()));
   std::vector<char*> arguments{const_cast<char*>("quillmere-settings")};
   for (const std::string& each : command.arguments) {
     arguments.push_back(const_cast<char*>(each.c_str()));
