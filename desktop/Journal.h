@@ -39,8 +39,8 @@ class Journal {
   /// One line a message, as in `NSMutableDictionary setObject:1 forKey:"colorMode"`.
   const std::vector<std::string>& lines() const { return lines_; }
 
-  /// Adds a message: the arguments follow the selector's colons. Who sends asks `isRecording` first,
-  /// so that silence costs nothing.
+  /// Adds a message: the arguments follow the selector's colons. Who sends asks `isRecording`
+  /// first, so that silence costs nothing.
   void record(std::string_view receiver, std::string_view selector,
               std::initializer_list<Argument> arguments);
 
