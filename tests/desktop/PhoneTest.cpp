@@ -24,7 +24,7 @@ Unprivileged::Unprivileged(const fs::path& ownFolder) {
   EXPECT_EQ(seteuid(nobody), 0);
 }
 
-Unprivileged::~Unprivileged() {
+void Unprivileged::end() const {
   if (getuid() != 0) return;
   EXPECT_EQ(seteuid(0), 0);
   // A change of user takes the right to be traced, which the leak check at the end needs.

@@ -19,7 +19,10 @@ class Unprivileged {
   explicit Unprivileged(const std::filesystem::path& ownFolder);
   Unprivileged(const Unprivileged&) = delete;
   Unprivileged& operator=(const Unprivileged&) = delete;
-  ~Unprivileged();
+  ~Unprivileged() { end(); }
+
+  /// Takes them back earlier.
+  void end() const;
 };
 
 void writeBytes(const std::filesystem::path& file, std::string_view bytes);

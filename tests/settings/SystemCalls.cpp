@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <csignal>
 #include <fcntl.h>
+#include <filesystem>
 #include <stdexcept>
 #include <sys/ptrace.h>
 #include <sys/syscall.h>
@@ -54,11 +55,21 @@ unsigned long flagsOf(pid_t process, const __ptrace_syscall_info& call) {
   return static_cast<unsigned long>(ptrace(PTRACE_PEEKDATA, process, arguments[2], nullptr));
 }
 
+/// Whether what is written goes into a pipe: sanitizers write to one to learn whether memory is
+/// there.
+bool isToPipe(pid_t process, const __ptrace_syscall_info& call) {
+  const auto file = std::filesystem::path("/proc") / std::to_string(process) / "fd" /
+                    std::to_string(call.entry.args[0]);
+  std::error_code gone;
+  return std::filesystem::read_symlink(file, gone).string().starts_with("pipe:");
+}
+
 std::string kindOf(pid_t process, const __ptrace_syscall_info& call) {
   const auto found = std::ranges::find(kinds, static_cast<long>(call.entry.nr),
                                        &std::pair<long, const char*>::first);
   if (found == std::end(kinds)) return {};
   const std::string kind = found->second;
+  if (kind == "write" && isToPipe(process, call)) return {};
   return kind == "open" && (flagsOf(process, call) & O_CREAT) != 0 ? "create" : kind;
 }
 
