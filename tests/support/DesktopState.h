@@ -26,6 +26,7 @@ struct Driver::State {
     phone.journal.start();
     phone.mainQueue.now = [this] { return time; };
     phone.identity = {std::nullopt, "12.5", std::nullopt};
+    settings::sweepPhone(phone.folder);
     settings::setUpPhone(phone.folder);
     phone.preferences.settleAll();
     open();
