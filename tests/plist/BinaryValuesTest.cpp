@@ -139,5 +139,37 @@ TEST(BinaryValue, UnusedObjectsAreNotLookedAt) {
   EXPECT_EQ(read(binaryFile({hex("09"), hex("F0")})).root, Value(true));
 }
 
+TEST(BinaryValue, KeysMayShareTheirText) {
+  // {a: {Ü: 1}, b: {Ü: 2}}; text that is converted is remembered.
+  const Document document =
+      read(binaryFile({hex("D2 01 02 03 06"), hex("51 61"), hex("51 62"), hex("D1 04 05"),
+                       hex("61 00DC"), hex("10 01"), hex("D1 04 07"), hex("10 02")}));
+  for (const auto& [outer, number] : {std::pair("a", 1), std::pair("b", 2)}) {
+    const Value* inner = document.root.dictionary()->find(outer);
+    ASSERT_TRUE(inner && inner->dictionary());
+    EXPECT_EQ(*inner->dictionary()->find("Ü"), Value::integer(number));
+  }
+}
+
+/// A dictionary of nine keys and, at its start, the last of them once more.
+std::string repeating() {
+  std::vector<std::string> objects{
+      hex("DA 09 01 02 03 04 05 06 07 08 09"
+          "   0A 0B 0C 0D 0E 0F 10 11 12 13")};
+  for (char key = 'a'; key <= 'i'; ++key) objects.push_back(std::string("\x51") + key);
+  for (char number = 0; number < 10; ++number) objects.push_back(std::string("\x10") + number);
+  return binaryFile(objects);
+}
+
+TEST(BinaryValue, TheFirstOfRepeatedKeysCounts) {
+  const Document document = read(repeating());
+  const Dictionary* all = document.root.dictionary();
+  ASSERT_TRUE(all);
+  EXPECT_EQ(all->size(), 9U);
+  EXPECT_EQ(*all->find("i"), Value::integer(0));
+  EXPECT_EQ(*all->find("a"), Value::integer(1));
+  EXPECT_EQ(*all->find("h"), Value::integer(8));
+}
+
 }  // namespace
 }  // namespace plist

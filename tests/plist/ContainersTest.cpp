@@ -73,6 +73,16 @@ TEST(Dictionary, KeyThatIsNotTextIsRefusedAndChangesNothing) {
   EXPECT_EQ(dictionary, numbered(2));
 }
 
+TEST(Dictionary, RoomThatIsMadeChangesNothing) {
+  Dictionary dictionary = numbered(3);
+  const Dictionary before = dictionary;
+  dictionary.reserve(1000);
+  EXPECT_EQ(dictionary, before);
+  dictionary.set("key1000", Value(true));
+  EXPECT_EQ(keysOf(dictionary), (std::vector<std::string>{"key0", "key1", "key2", "key1000"}));
+  EXPECT_EQ(*dictionary.find("key1"), Value::integer(1));
+}
+
 TEST(Dictionary, EqualInAnyOrder) {
   Dictionary one;
   one.set("a", Value(true));
