@@ -1,5 +1,6 @@
 #include "bench/support/Animations.h"
 #include "bench/support/Contestant.h"
+#include "bench/support/ListTrials.h"
 #include "desktop/Phone.h"
 #include "lotties/QMLottiesList.h"
 
@@ -53,26 +54,11 @@ class OpenList {
   bool atEnd_ = false;
 };
 
-Trial disable(std::size_t size, const std::filesystem::path& folder) {
-  auto list = std::make_shared<OpenList>(size, folder);
-  list->disable();
-  return {[list] { list->enable(); }, [list] { list->disable(); }};
-}
-
-Trial enable(std::size_t size, const std::filesystem::path& folder) {
-  auto list = std::make_shared<OpenList>(size, folder);
-  return {[list] { list->disable(); }, [list] { list->enable(); }};
-}
-
-Trial move(std::size_t size, const std::filesystem::path& folder) {
-  return [list = std::make_shared<OpenList>(size, folder)] { list->move(); };
-}
-
 constexpr bench::Case cases[] = {
     {"catalogue", &catalogue},
-    {"list-disable", &disable},
-    {"list-enable", &enable},
-    {"list-move", &move},
+    {"list-disable", &bench::disabling<OpenList>},
+    {"list-enable", &bench::enabling<OpenList>},
+    {"list-move", &bench::moving<OpenList>},
 };
 
 }  // namespace

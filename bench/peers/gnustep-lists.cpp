@@ -4,6 +4,7 @@
 #include "bench/peers/Objc.h"
 #include "bench/support/Animations.h"
 #include "bench/support/Contestant.h"
+#include "bench/support/ListTrials.h"
 
 /// The animation list as an Objective-C program keeps it, over GNUstep's arrays. A change is stored
 /// once, as XML, the one form that it loads and saves a dictionary in; the file is written aside
@@ -112,26 +113,11 @@ class OpenList {
   bool atEnd_ = false;
 };
 
-Trial disable(std::size_t size, const std::filesystem::path& folder) {
-  auto list = std::make_shared<OpenList>(size, folder);
-  list->disable();
-  return {[list] { list->enable(); }, [list] { list->disable(); }};
-}
-
-Trial enable(std::size_t size, const std::filesystem::path& folder) {
-  auto list = std::make_shared<OpenList>(size, folder);
-  return {[list] { list->disable(); }, [list] { list->enable(); }};
-}
-
-Trial move(std::size_t size, const std::filesystem::path& folder) {
-  return [list = std::make_shared<OpenList>(size, folder)] { list->move(); };
-}
-
 constexpr Case cases[] = {
     {"catalogue", catalogue},
-    {"list-disable", disable},
-    {"list-enable", enable},
-    {"list-move", move},
+    {"list-disable", &disabling<OpenList>},
+    {"list-enable", &enabling<OpenList>},
+    {"list-move", &moving<OpenList>},
 };
 
 }  // namespace
