@@ -38,6 +38,16 @@ const std::vector<Entry> readers = {
     {"GNUstep", "peers/gnustep-dictionary"},
 };
 
+/// A change of a long list that is open.
+Race listRace(std::string_view name, std::string_view what) {
+  return {.name = name,
+          .what = what,
+          .distances = {{100000, 1.5}},
+          .limit = {"plain system calls", "limits/lists"},
+          .ours = {"ours", "ours/lists"},
+          .peers = {{"GNUstep, unsynced", "peers/gnustep-lists"}}};
+}
+
 }  // namespace
 
 std::span<const Race> races() {
@@ -74,24 +84,11 @@ std::span<const Race> races() {
        .peers = {{"ls -U", "peers/ls"},
                  {"std::filesystem", "peers/filesystem"},
                  {.name = "GNUstep", .program = "peers/gnustep-lists", .largest = 1000}}},
-      {.name = "list-disable",
-       .what = "an animation disabled, first or last, durable on disk (size: enabled ones)",
-       .distances = {{100000, 1.5}},
-       .limit = {"plain system calls", "limits/lists"},
-       .ours = {"ours", "ours/lists"},
-       .peers = {{"GNUstep, unsynced", "peers/gnustep-lists"}}},
-      {.name = "list-enable",
-       .what = "an animation enabled, durable on disk (size: enabled ones)",
-       .distances = {{100000, 1.5}},
-       .limit = {"plain system calls", "limits/lists"},
-       .ours = {"ours", "ours/lists"},
-       .peers = {{"GNUstep, unsynced", "peers/gnustep-lists"}}},
-      {.name = "list-move",
-       .what = "an animation moved, first to last or back, durable on disk (size: enabled ones)",
-       .distances = {{100000, 1.5}},
-       .limit = {"plain system calls", "limits/lists"},
-       .ours = {"ours", "ours/lists"},
-       .peers = {{"GNUstep, unsynced", "peers/gnustep-lists"}}},
+      listRace("list-disable",
+               "an animation disabled, first or last, durable on disk (size: enabled ones)"),
+      listRace("list-enable", "an animation enabled, durable on disk (size: enabled ones)"),
+      listRace("list-move",
+               "an animation moved, first to last or back, durable on disk (size: enabled ones)"),
       {.name = "rescale",
        .what = "a picture scaled to 120 points of 3 pixels (size: its width and height)",
        .distances = {{1024, 1.05}},
