@@ -2,6 +2,7 @@
 #include <string>
 #include <vector>
 
+#include "plist/Document.h"
 #include "plist/TextBlock.h"
 
 namespace plist {
@@ -35,6 +36,22 @@ TEST(TextBlock, HoldsTextsOfAnyLengthWhichStayWhereTheyAre) {
   }
   EXPECT_EQ(first.string()->data(), place);
   EXPECT_EQ(first.string(), "first");
+}
+
+/// An empty text begins where the next one does, and is another all the same.
+TEST(TextBlock, IsWrittenWithEachOfItsTextsOnce) {
+  TextBlock block;
+  Array list;
+  for (int number = 0; number < 2000; ++number) {
+    const Value text = *block.append("number " + std::to_string(number) + ';');
+    const Value empty = *block.append("");
+    for (const Value& each : {text, empty, text}) list.append(each);
+  }
+  const std::string file = writeBinary(Value(list));
+  EXPECT_EQ(read(file).root, Value(list));
+  const std::size_t place = file.find("number 1999;");
+  ASSERT_NE(place, std::string::npos);
+  EXPECT_EQ(file.find("number 1999;", place + 1), std::string::npos);
 }
 
 TEST(Part, SharesTheBytesOfTheWhole) {
