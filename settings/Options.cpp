@@ -3,7 +3,9 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
+#include <span>
 #include <string>
+#include <string_view>
 
 #include "desktop/Identity.h"
 
@@ -30,51 +32,101 @@ CLI::Validator version() {
           ""};
 }
 
-void addPhone(CLI::App& app, Options& options) {
-  app.add_option_function<std::string>(
-         "--root", [&](const std::string& folder) { options.root = folder; },
-         "The folder that stands in for the phone's file system\n"
-         "(default: quillmere/phone in your data folder)")
-      ->type_name("DIR")
-      ->check(something());
-  app.add_option("--screen-scale", options.screenScale,
-                 "How many pixels the phone's screen has to a point (default: 3)")
-      ->option_text("1|2|3")
-      ->check(CLI::IsMember({"1", "2", "3"}));
-  app.add_option("--ios-version", options.iosVersion,
-                 "The version of iOS that the phone says it has, such as 14.3\n"
-                 "(default: as its SystemVersion.plist has it)")
-      ->type_name("VERSION")
-      ->check(version());
-  app.add_option("--ios-build", options.iosBuild, "The build of it, such as 18C66")
-      ->type_name("BUILD")
-      ->check(something());
-  app.add_option("--product-type", options.productType,
-                 "The model that the phone says it is, such as iPhone12,1")
-      ->type_name("MODEL")
-      ->check(something());
-}
+/// The words of a command line, without the program's name.
+class Words {
+ public:
+  Words(int count, const char* const* words) : words_(words + 1, words + std::max(count, 1)) {}
 
-void addCommands(CLI::App& app, Options& options) {
-  app.add_option("--respring-command", options.respringCommand,
-                 "Run this by sh when the phone resprings")
-      ->type_name("COMMAND");
-  app.add_option("--notify-command", options.notifyCommand,
-                 "Run this by sh for every Darwin notification; its name is $1")
-      ->type_name("COMMAND");
-  app.add_option("--mail-command", options.mailCommand,
-                 "Run this by sh for every mail sent; the message is its standard input")
-      ->type_name("COMMAND");
-}
+  /// Whether the parser has to know of an option or sub-command: one of the words is its name, or
+  /// asks for help, which tells all. Each takes longer to tell a parser of than to look for here.
+  bool name(std::string_view name) const {
+    return std::ranges::any_of(words_, [&](std::string_view word) {
+      return word.substr(0, word.find('=')) == name || asksForHelp(word);
+    });
+  }
 
-/// What only the page has a use for.
-void addPage(CLI::App& app, Options& options) {
-  app.add_option("--port", options.port, "The port to listen on; 0, the default, takes a free one")
-      ->type_name("N")
-      ->check(something());
-  app.add_flag_callback(
-      "--no-open", [&] { options.open = false; }, "Do not open a browser");
-}
+ private:
+  static bool asksForHelp(std::string_view word) {
+    // "-h" may also stand among other letters.
+    return word.starts_with("--help") || (word.starts_with('-') && !word.starts_with("--"));
+  }
+
+  std::span<const char* const> words_;
+};
+
+/// An option, whose name is handed back to the function that tells the parser of it.
+struct Known {
+  const char* name;
+  void (*add)(CLI::App& app, const char* name, Options& options);
+};
+
+constexpr Known everyOption[] = {
+    {"--root",
+     [](CLI::App& app, const char* name, Options& options) {
+       app.add_option_function<std::string>(
+              name, [&](const std::string& folder) { options.root = folder; },
+              "The folder that stands in for the phone's file system\n"
+              "(default: quillmere/phone in your data folder)")
+           ->type_name("DIR")
+           ->check(something());
+     }},
+    {"--screen-scale",
+     [](CLI::App& app, const char* name, Options& options) {
+       app.add_option(name, options.screenScale,
+                      "How many pixels the phone's screen has to a point (default: 3)")
+           ->option_text("1|2|3")
+           ->check(CLI::IsMember({"1", "2", "3"}));
+     }},
+    {"--ios-version",
+     [](CLI::App& app, const char* name, Options& options) {
+       app.add_option(name, options.iosVersion,
+                      "The version of iOS that the phone says it has, such as 14.3\n"
+                      "(default: as its SystemVersion.plist has it)")
+           ->type_name("VERSION")
+           ->check(version());
+     }},
+    {"--ios-build",
+     [](CLI::App& app, const char* name, Options& options) {
+       app.add_option(name, options.iosBuild, "The build of it, such as 18C66")
+           ->type_name("BUILD")
+           ->check(something());
+     }},
+    {"--product-type",
+     [](CLI::App& app, const char* name, Options& options) {
+       app.add_option(name, options.productType,
+                      "The model that the phone says it is, such as iPhone12,1")
+           ->type_name("MODEL")
+           ->check(something());
+     }},
+    {"--respring-command",
+     [](CLI::App& app, const char* name, Options& options) {
+       app.add_option(name, options.respringCommand, "Run this by sh when the phone resprings")
+           ->type_name("COMMAND");
+     }},
+    {"--notify-command",
+     [](CLI::App& app, const char* name, Options& options) {
+       app.add_option(name, options.notifyCommand,
+                      "Run this by sh for every Darwin notification; its name is $1")
+           ->type_name("COMMAND");
+     }},
+    {"--mail-command",
+     [](CLI::App& app, const char* name, Options& options) {
+       app.add_option(name, options.mailCommand,
+                      "Run this by sh for every mail sent; the message is its standard input")
+           ->type_name("COMMAND");
+     }},
+    {"--port",
+     [](CLI::App& app, const char* name, Options& options) {
+       app.add_option(name, options.port, "The port to listen on; 0, the default, takes a free one")
+           ->type_name("N")
+           ->check(something());
+     }},
+    {"--no-open",
+     [](CLI::App& app, const char* name, Options& options) {
+       app.add_flag_callback(
+           name, [&] { options.open = false; }, "Do not open a browser");
+     }},
+};
 
 CLI::App* addGroup(CLI::App& app, const std::string& name) {
   CLI::App* group =
@@ -127,7 +179,8 @@ void requireSense(const CLI::App& app, const Options& options) {
   const SubCommand* command = options.subCommand;
   const std::string place = command ? command->name : "the page";
   for (const char* name : {"--port", "--no-open"}) {
-    if (command && app.count(name) > 0) {
+    const CLI::Option* option = app.get_option_no_throw(name);
+    if (command && option && option->count() > 0) {
       throw CLI::ValidationError(std::string(name) + " is for the page, and not for " + place);
     }
   }
@@ -138,16 +191,22 @@ void requireSense(const CLI::App& app, const Options& options) {
   }
 }
 
-void addAll(CLI::App& app, Options& options) {
+/// The first of a sub-command's words, which a command line that asks for it begins with.
+std::string_view firstWord(std::string_view name) { return name.substr(0, name.find(' ')); }
+
+void addAll(CLI::App& app, const Words& words, Options& options) {
   app.fallthrough();
   app.require_subcommand(0, 1);
-  addPhone(app, options);
-  addCommands(app, options);
-  addPage(app, options);
-  for (const SubCommand& command : cli::subCommands()) addSubCommand(app, command, options);
+  for (const Known& option : everyOption) {
+    if (words.name(option.name)) option.add(app, option.name, options);
+  }
+  for (const SubCommand& command : cli::subCommands()) {
+    if (words.name(firstWord(command.name))) addSubCommand(app, command, options);
+  }
   // Before a sub-command as well; their help stands with the sub-commands that take them.
-  for (const Flag& flag : cli::flags())
-    app.add_flag(flag.name, options.request.*flag.part)->group("");
+  for (const Flag& flag : cli::flags()) {
+    if (words.name(flag.name)) app.add_flag(flag.name, options.request.*flag.part)->group("");
+  }
   app.footer(std::string("Without a sub-command the page is shown. ") + programName +
              " SUBCOMMAND --help tells more.");
 }
@@ -158,7 +217,7 @@ ParsedOptions parseOptions(int argc, const char* const* argv) {
   ParsedOptions parsed;
   CLI::App app("Quillmere's settings, on a desktop: a stand-in phone, shown in a browser.",
                programName);
-  addAll(app, parsed.options);
+  addAll(app, Words(argc, argv), parsed.options);
   try {
     app.parse(argc, argv);
     requireSense(app, parsed.options);

@@ -56,6 +56,13 @@ TEST(OptionsTest, HelpGoesToStandardOutputAndNamesEveryOption) {
   }
 }
 
+TEST(OptionsTest, HelpTellsAllAlsoWhereOtherWordsAreNames) {
+  const std::string all = parse({"--help"}).out;
+  const std::vector<std::vector<std::string>> asking = {
+      {"--root", "get", "--help"}, {"--port=1", "-h"}, {"-h", "--mail-command", "list"}};
+  for (const auto& words : asking) EXPECT_EQ(parse(words).out, all) << words[0];
+}
+
 TEST(OptionsTest, EveryMistakeIsOneLineOnStandardErrorAndExitCode2) {
   const std::vector<std::vector<std::string>> mistakes = {
       {"--port", "65536"},
