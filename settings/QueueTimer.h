@@ -3,6 +3,7 @@
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/steady_timer.hpp>
 #include <functional>
+#include <optional>
 #include <utility>
 
 #include "desktop/MainQueue.h"
@@ -14,7 +15,7 @@ class QueueTimer {
  public:
   /// `run` lets the queue do what is due. Nothing may wait in the queue yet.
   QueueTimer(boost::asio::io_context& loop, desktop::MainQueue& queue, std::function<void()> run)
-      : timer_(loop), queue_(queue), run_(std::move(run)) {
+      : loop_(loop), queue_(queue), run_(std::move(run)) {
     queue_.added = [this] { arm(); };
   }
   QueueTimer(const QueueTimer&) = delete;
@@ -26,15 +27,19 @@ class QueueTimer {
   void arm() {
     const auto due = queue_.due();
     if (!due) return;
-    timer_.expires_at(*due);
-    timer_.async_wait([this](boost::system::error_code error) {
+    if (!timer_) timer_.emplace(loop_);
+    timer_->expires_at(*due);
+    timer_->async_wait([this](boost::system::error_code error) {
       if (error) return;
       run_();
       arm();
     });
   }
 
-  boost::asio::steady_timer timer_;
+  boost::asio::io_context& loop_;
+  /// Made for what is put off first: the loop asks the system for all that it waits by only then,
+  /// and most commands wait for nothing.
+  std::optional<boost::asio::steady_timer> timer_;
   desktop::MainQueue& queue_;
   std::function<void()> run_;
 };

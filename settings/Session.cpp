@@ -23,8 +23,10 @@ std::filesystem::path phoneFolder(const Options& options) {
 }
 
 /// What the phone's own files say of it, unless the command line says otherwise.
-desktop::Identity identityOf(const desktop::PhoneFolder& folder, const Options& options) {
-  desktop::Identity identity = desktop::readIdentity(folder);
+desktop::Identity identityOf(const desktop::Phone& phone, const Options& options) {
+  desktop::Identity identity = phone.identity;
+  // A new phone had no files yet when it was switched on.
+  if (!identity.productVersion) identity = desktop::readIdentity(phone.folder);
   if (!options.productType.empty()) identity.productType = options.productType;
   if (!options.iosVersion.empty()) {
     identity.productVersion = options.iosVersion;
@@ -60,7 +62,7 @@ Session::Session(const Options& options, boost::asio::io_context& loop)
     if (!reads) throw;
   }
   phone.preferences.merges = !reads;
-  phone.identity = identityOf(phone.folder, options);
+  phone.identity = identityOf(phone, options);
   phone.screenScale = options.screenScale;
   runCommands(options);
   phone.springBoard.open("prefs:root=Quillmere");
