@@ -22,8 +22,9 @@ Identity readIdentity(const PhoneFolder& folder) {
   try {
     const auto file = readPropertyList(folder, versionFile);
     if (!file) return {};
-    return {textIn(file->dictionary, "ProductType"), textIn(file->dictionary, "ProductVersion"),
-            textIn(file->dictionary, "ProductBuildVersion")};
+    const plist::Dictionary system = file->entries.all();
+    return {textIn(system, "ProductType"), textIn(system, "ProductVersion"),
+            textIn(system, "ProductBuildVersion")};
   } catch (const UnreadableFile&) {
     return {};  // The phone works without knowing what it is.
   }

@@ -16,7 +16,7 @@ constexpr const char* loaderFolder = "/Library/PreferenceLoader/Preferences";
 plist::Dictionary dictionaryAt(const std::string& path) {
   try {
     const auto file = readPropertyList(Phone::current().folder, path);
-    return file ? file->dictionary : plist::Dictionary();
+    return file ? file->entries.all() : plist::Dictionary();
   } catch (const UnreadableFile& reason) {
     Phone::current().report(path + " cannot be read: " + reason.what());
     return {};

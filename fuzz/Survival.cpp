@@ -4,6 +4,7 @@
 
 #include "fuzz/Require.h"
 #include "plist/Document.h"
+#include "plist/PlainBinary.h"
 #include "tests/plist/Describe.h"
 
 namespace fuzz {
@@ -27,10 +28,27 @@ std::optional<plist::Document> documentIn(const std::string& file) {
   }
 }
 
+/// What is looked into and changed without being read says the same as if it were.
+void requireAgreement(std::string file, const std::optional<plist::Document>& document) {
+  auto plain = plist::PlainBinary::in(file, limits);
+  if (!plain) return;
+  const plist::Dictionary* read = document ? document->root.dictionary() : nullptr;
+  require(read != nullptr, "taken as a dictionary without being one");
+  plist::Dictionary changed = *read;
+  for (const auto& entry : *read) {
+    require(plain->find(entry.key()) == entry.value(), "another value than is read");
+    const auto other = plist::Value::integer(entry.key().size() << 8);
+    if (plain->set(entry.key(), other)) changed.set(entry.key(), other);
+  }
+  const auto after = documentIn(plain->bytes());
+  require(after && after->root == plist::Value(changed), "changed into something else");
+}
+
 }  // namespace
 
 void requireSurvival(const std::string& file) {
   const auto document = documentIn(file);
+  requireAgreement(file, document);
   if (!document) return;
   const plist::Value& root = document->root;
 

@@ -25,14 +25,14 @@ File::File(std::string_view bytes) {
   referenceSize_ = static_cast<std::uint8_t>(trailer[7]);
   objectCount_ = bigEndian(trailer + 8, 8);
   topObject_ = bigEndian(trailer + 16, 8);
-  const std::uint64_t tableAt = bigEndian(trailer + 24, 8);
+  const std::uint64_t tableAt = bigEndian(trailer + kTableAtInTrailer, 8);
 
   if (!isWidth(offsetSize_)) throw Unreadable("bad width of offsets", trailerAt + 6);
   if (!isWidth(referenceSize_)) throw Unreadable("bad width of references", trailerAt + 7);
   if (objectCount_ == 0) throw Unreadable("no objects", trailerAt + 8);
   if (topObject_ >= objectCount_) throw Unreadable("no such top object", trailerAt + 16);
   if (tableAt <= kMagic.size() || tableAt >= trailerAt) {
-    throw Unreadable("offset table outside the file", trailerAt + 24);
+    throw Unreadable("offset table outside the file", trailerAt + kTableAtInTrailer);
   }
   if (objectCount_ > trailerAt || objectCount_ * offsetSize_ != trailerAt - tableAt) {
     throw Unreadable("offset table of the wrong size", trailerAt + 8);

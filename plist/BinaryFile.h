@@ -13,6 +13,7 @@ namespace plist::binary {
 
 inline constexpr std::string_view kMagic = "bplist00";
 inline constexpr std::size_t kTrailerSize = 32;
+inline constexpr std::size_t kTableAtInTrailer = 24;
 
 /// The high half of an object's first byte; the low half is a length or a width.
 enum class Marker : std::uint8_t {
@@ -50,6 +51,13 @@ struct Object {
   std::size_t offset;      ///< Of the first byte.
   std::uint64_t count;     ///< Bytes of data or ASCII text, UTF-16 units, elements or entries.
   std::string_view bytes;  ///< What follows, exactly as long as the object says.
+
+  [[nodiscard]] bool isText() const noexcept {
+    return marker == Marker::Ascii || marker == Marker::Utf16;
+  }
+  [[nodiscard]] bool isContainer() const noexcept {
+    return marker == Marker::Array || marker == Marker::Dictionary;
+  }
 };
 
 /// The number of `width` bytes at `at`, the high byte first; 8 bytes have to be readable there, as
@@ -69,10 +77,19 @@ class File {
 
   [[nodiscard]] std::uint64_t objectCount() const noexcept { return objectCount_; }
   [[nodiscard]] std::uint64_t topObject() const noexcept { return topObject_; }
+  /// Where the objects end and the table of their offsets begins.
+  [[nodiscard]] std::size_t tableAt() const noexcept { return objects_.size(); }
+  /// Bytes of each offset in the table.
+  [[nodiscard]] std::uint8_t offsetSize() const noexcept { return offsetSize_; }
+
+  /// Where the table has the object of that number, which is below objectCount().
+  [[nodiscard]] std::uint64_t offset(std::uint64_t number) const noexcept {
+    return bigEndian(table_.data() + number * offsetSize_, offsetSize_);
+  }
 
   /// The object of that number, which is below objectCount().
   [[nodiscard]] Object object(std::uint64_t number) const {
-    const std::size_t offset = bigEndian(table_.data() + number * offsetSize_, offsetSize_);
+    const std::size_t offset = this->offset(number);
     if (offset < kMagic.size() || offset >= objects_.size()) {
       refuse("object outside the file", objects_.size() + number * offsetSize_);
     }
@@ -86,6 +103,11 @@ class File {
       setBytes(object, offset + 1, kFixedSize[first] + std::uint64_t{low} * unit);
     }
     return object;
+  }
+
+  /// The offset of the first byte after the object.
+  [[nodiscard]] std::size_t endOf(const Object& object) const noexcept {
+    return static_cast<std::size_t>(object.bytes.data() - objects_.data()) + object.bytes.size();
   }
 
   /// The number at `index` of the references that are a container's bytes.

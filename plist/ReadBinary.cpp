@@ -58,7 +58,7 @@ class BinaryReader {
   Value readTree() {
     count(1);
     const Object top = file_.object(file_.topObject());
-    if (!isContainer(top)) return readLeaf(top, file_.topObject());
+    if (!top.isContainer()) return readLeaf(top, file_.topObject());
     open(top, file_.topObject());
     for (;;) {
       if (!readElements()) continue;
@@ -96,10 +96,6 @@ class BinaryReader {
 
   void checkDepth(std::size_t more, std::size_t offset) const {
     if (open_.size() + more > limits_.depth) throw Unreadable("nested too deeply", offset);
-  }
-
-  static bool isContainer(const Object& object) {
-    return object.marker == Marker::Array || object.marker == Marker::Dictionary;
   }
 
   Value readLeaf(const Object& object, std::uint64_t number);
@@ -195,7 +191,7 @@ Value BinaryReader::readKey(std::uint64_t number) {
     }
   } else if (states_[number] < kOpen) {
     const Object object = file_.object(number);
-    if (object.marker == Marker::Ascii || object.marker == Marker::Utf16) {
+    if (object.isText()) {
       return readText(object, number);
     }
   }
@@ -232,7 +228,7 @@ bool BinaryReader::readElements() {
       continue;
     }
     const Object object = file_.object(number);
-    if (isContainer(object)) {
+    if (object.isContainer()) {
       open(object, number);
       return false;
     }

@@ -38,7 +38,8 @@ class OpenPage {
   OpenPage(const std::filesystem::path& host, std::size_t keys, Form form) : phone_(host) {
     phone_.folder.makeFolders("/var/mobile/Library/Preferences");
     phone_.folder.makeLink("/User", "var/mobile");
-    writePropertyList(phone_.folder, domainFile, {bench::preferencesOf(keys), form});
+    writePropertyList(phone_.folder, domainFile,
+                      {desktop::Entries(bench::preferencesOf(keys)), form});
     page_ =
         std::dynamic_pointer_cast<platform::PSListController>(desktop::makeController("QMClockVC"));
     page_->init();

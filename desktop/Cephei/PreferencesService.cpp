@@ -50,7 +50,7 @@ std::optional<PendingChanges> PreferencesService::readPending(const std::string&
   try {
     const auto file = readPropertyList(phone_.folder, path);
     if (!file) return PendingChanges();
-    if (auto changes = PendingChanges::fromDictionary(file->dictionary)) return changes;
+    if (auto changes = PendingChanges::fromDictionary(file->entries.all())) return changes;
     complaint = path + " does not hold changes: it is left as it is";
   } catch (const UnreadableFile& reason) {
     complaint = path + " cannot be read (" + reason.what() + "): it is left as it is";
@@ -74,9 +74,10 @@ PreferencesService::Domain PreferencesService::load(const std::string& domain) c
 
 void PreferencesService::merge(const std::string& domain, Domain& state) const {
   if (state.unreadable || !state.pending || state.pending->empty()) return;
-  state.pending->applyTo(state.file.dictionary);
+  plist::Dictionary& all = state.file.entries.all();
+  state.pending->applyTo(all);
   // A file that is gone has no keys left to remove.
-  if (!state.isMissing || !state.file.dictionary.empty()) {
+  if (!state.isMissing || !all.empty()) {
     writePropertyList(phone_.folder, pathOf(domain), state.file);
   }
   phone_.folder.remove(pendingPathOf(domain));
@@ -88,7 +89,7 @@ void PreferencesService::keep(const std::string& domain, Domain& state, const st
   const std::string file = pathOf(domain) + " cannot be read (" + *state.unreadable + ")";
   if (!state.pending) throw std::runtime_error(file);
   change(*state.pending);
-  writePropertyList(phone_.folder, pendingPathOf(domain), {state.pending->toDictionary()});
+  writePropertyList(phone_.folder, pendingPathOf(domain), {Entries(state.pending->toDictionary())});
   phone_.reportLoss(file + ": it is left as it is, and " + what + " is kept in " +
                     pendingPathOf(domain));
 }
@@ -100,7 +101,7 @@ std::optional<plist::Value> PreferencesService::value(const std::string& domain,
     settle(domain);
     state = load(domain);
   }
-  return answers_[domain][key] = valueIn(std::move(state), key);
+  return answers_[domain][key] = valueIn(state, key);
 }
 
 bool PreferencesService::answersAreOutdated() const {
@@ -113,10 +114,11 @@ bool PreferencesService::answersAreOutdated() const {
   });
 }
 
-std::optional<plist::Value> PreferencesService::valueIn(Domain state, std::string_view key) {
-  if (state.pending) state.pending->applyTo(state.file.dictionary);
-  const plist::Value* found = state.file.dictionary.find(key);
-  return found ? std::optional(*found) : std::nullopt;
+std::optional<plist::Value> PreferencesService::valueIn(const Domain& state, std::string_view key) {
+  if (!state.pending || state.pending->empty()) return state.file.entries.find(key);
+  plist::Dictionary all = state.file.entries.all();
+  state.pending->applyTo(all);
+  return Entries(std::move(all)).find(key);
 }
 
 void PreferencesService::set(const std::string& domain, const std::string& key,
@@ -137,12 +139,13 @@ void PreferencesService::store(const std::string& domain, const std::string& key
     return keep(domain, state, key, [&](PendingChanges& changes) { changes.add(key, value); });
   }
   merge(domain, state);
-  const plist::Value* present = state.file.dictionary.find(key);
+  Entries& entries = state.file.entries;
+  const std::optional<plist::Value> present = entries.find(key);
   if (value ? present && isStoredAs(*present, *value, state.file.form) : !present) return;
   if (value) {
-    state.file.dictionary.set(key, *value);
+    entries.set(key, *value);
   } else {
-    state.file.dictionary.erase(key);
+    entries.all().erase(key);
   }
   writePropertyList(phone_.folder, pathOf(domain), state.file);
 }
@@ -155,8 +158,8 @@ void PreferencesService::clear(const std::string& domain) const {
                   [](PendingChanges& changes) { changes.clear(); });
     }
     merge(domain, state);
-    if (state.file.dictionary.empty()) return;
-    state.file.dictionary = {};
+    if (state.file.entries.all().empty()) return;
+    state.file.entries = {};
     writePropertyList(phone_.folder, pathOf(domain), state.file);
   } catch (const std::exception& failure) {
     phone_.reportLoss(pathOf(domain) + " was not cleared: " + failure.what());

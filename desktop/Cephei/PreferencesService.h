@@ -58,7 +58,7 @@ class PreferencesService {
   Domain load(const std::string& domain) const;
   /// None when there is something in the place of the kept changes that is none.
   std::optional<PendingChanges> readPending(const std::string& path) const;
-  static std::optional<plist::Value> valueIn(Domain state, std::string_view key);
+  static std::optional<plist::Value> valueIn(const Domain& state, std::string_view key);
   void store(const std::string& domain, const std::string& key,
              const std::optional<plist::Value>& value) const;
   void merge(const std::string& domain, Domain& state) const;

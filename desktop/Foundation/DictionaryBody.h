@@ -3,8 +3,7 @@
 #include <string>
 
 #include "desktop/Body.h"
-#include "plist/Document.h"
-#include "plist/Value.h"
+#include "desktop/Foundation/PropertyListFile.h"
 
 namespace desktop {
 
@@ -13,9 +12,8 @@ class DictionaryBody : public Body {
  public:
   enum class Mutable : bool { No, Yes };
 
-  DictionaryBody(plist::Dictionary contents, Mutable isMutable,
-                 plist::Form cameFrom = plist::Form::Binary)
-      : dictionary(std::move(contents)), form(cameFrom), isMutable_(isMutable) {}
+  DictionaryBody(PropertyListFile contents, Mutable isMutable)
+      : file(std::move(contents)), isMutable_(isMutable) {}
 
   std::string_view className() const override {
     return isMutable_ == Mutable::Yes ? "NSMutableDictionary" : "NSDictionary";
@@ -23,9 +21,8 @@ class DictionaryBody : public Body {
   std::string description() const override;
   bool isEqual(const Body& other) const override;
 
-  plist::Dictionary dictionary;
-  /// The form of the file that it was read from, and is written in again.
-  plist::Form form;
+  /// What it holds, and the form of the file that it was read from and is written in again.
+  PropertyListFile file;
 
  private:
   Mutable isMutable_;

@@ -11,7 +11,7 @@ namespace desktop {
 
 std::string DictionaryBody::description() const {
   std::string text = "{";
-  for (const auto& entry : dictionary) {
+  for (const auto& entry : file.entries.all()) {
     if (text.size() > 1) text += ", ";
     text += std::string(entry.key()) + " = " + desktop::debugDescription(box(entry.value()));
   }
@@ -20,7 +20,7 @@ std::string DictionaryBody::description() const {
 
 bool DictionaryBody::isEqual(const Body& other) const {
   const auto* that = dynamic_cast<const DictionaryBody*>(&other);
-  return that && that->dictionary == dictionary;
+  return that && that->file.entries.all() == file.entries.all();
 }
 
 }  // namespace desktop
@@ -39,8 +39,7 @@ Handle load(const NSString& path, Mutable isMutable) {
     auto file = desktop::readPropertyList(desktop::Phone::current().folder,
                                           desktop::textIn(path).value_or(""));
     if (!file) return {};
-    return desktop::make<Handle, DictionaryBody>(std::move(file->dictionary), isMutable,
-                                                 file->form);
+    return desktop::make<Handle, DictionaryBody>(*std::move(file), isMutable);
   } catch (const desktop::UnreadableFile&) {
     return {};  // The platform answers nil here and says no more.
   }
@@ -55,15 +54,16 @@ NSDictionary NSDictionary::dictionaryWithContentsOfFile(const NSString& path) {
 
 Object NSDictionary::objectForKey(const NSString& key) const {
   return send<DictionaryBody>(*this, "objectForKey:", {key}, [&](DictionaryBody& self) {
-    const plist::Value* value =
-        key ? self.dictionary.find(desktop::textIn(key).value_or("")) : nullptr;
+    if (!key) return Object();
+    const auto value = self.file.entries.find(desktop::textIn(key).value_or(""));
     return value ? desktop::box(*value) : Object();
   });
 }
 
 NSMutableDictionary NSMutableDictionary::init() {
   return desktop::sendClass("NSMutableDictionary", "init", {}, [] {
-    return desktop::make<NSMutableDictionary, DictionaryBody>(plist::Dictionary(), Mutable::Yes);
+    return desktop::make<NSMutableDictionary, DictionaryBody>(desktop::PropertyListFile(),
+                                                              Mutable::Yes);
   });
 }
 
@@ -75,7 +75,7 @@ NSMutableDictionary NSMutableDictionary::initWithContentsOfFile(const NSString& 
 void NSMutableDictionary::setObject(const Object& object, const NSString& key) {
   send<DictionaryBody>(*this, "setObject:forKey:", {object, key}, [&](DictionaryBody& self) {
     if (!key) throw desktop::invalidArgument("key is nil");
-    self.dictionary.set(desktop::textIn(key).value_or(""), desktop::unbox(object));
+    self.file.entries.set(desktop::textIn(key).value_or(""), desktop::unbox(object));
   });
 }
 
@@ -86,7 +86,7 @@ bool NSMutableDictionary::writeToFile(const NSString& path, Atomically atomicall
       [&](DictionaryBody& self) {
         desktop::Phone& phone = desktop::Phone::current();
         try {
-          writePropertyList(phone.folder, path.UTF8String(), {self.dictionary, self.form});
+          writePropertyList(phone.folder, path.UTF8String(), self.file);
           return true;
         } catch (const std::exception& failure) {
           phone.reportLoss(path.UTF8String() + " was not written: " + failure.what());

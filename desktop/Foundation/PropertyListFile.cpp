@@ -11,9 +11,12 @@ std::optional<PropertyListFile> readPropertyList(const PhoneFolder& folder, std:
   try {
     std::optional<std::string> bytes = folder.read(path);
     if (!bytes) return std::nullopt;
+    if (auto plain = plist::PlainBinary::in(*bytes)) {
+      return PropertyListFile{Entries(*std::move(plain)), plist::Form::Binary};
+    }
     plist::Document document = plist::read(*std::move(bytes));
     if (const plist::Dictionary* dictionary = document.root.dictionary()) {
-      return PropertyListFile{*dictionary, document.form};
+      return PropertyListFile{Entries(*dictionary), document.form};
     }
     throw UnreadableFile("its root is not a dictionary");
   } catch (const plist::Unreadable& unreadable) {
@@ -25,7 +28,9 @@ std::optional<PropertyListFile> readPropertyList(const PhoneFolder& folder, std:
 
 void writePropertyList(const PhoneFolder& folder, std::string_view path,
                        const PropertyListFile& file) {
-  const std::optional<std::string> bytes = plist::write(plist::Value(file.dictionary), file.form);
+  const plist::PlainBinary* plain = file.entries.file();
+  if (plain && file.form == plist::Form::Binary) return folder.replace(path, plain->bytes());
+  const auto bytes = plist::write(plist::Value(file.entries.all()), file.form);
   if (!bytes) throw std::system_error(EFBIG, std::generic_category(), std::string(path));
   folder.replace(path, *bytes);
 }

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "desktop/Foundation/Entries.h"
 #include "desktop/PhoneFolder.h"
 #include "plist/Document.h"
 
@@ -12,7 +13,7 @@ namespace desktop {
 
 /// A property-list file whose root is a dictionary.
 struct PropertyListFile {
-  plist::Dictionary dictionary;
+  Entries entries;
   plist::Form form = plist::Form::Binary;
 };
 

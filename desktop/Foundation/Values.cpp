@@ -61,7 +61,8 @@ platform::Object box(const plist::Value& value) {
     return make<platform::Object, ArrayBody>(Elements(*array), ArrayBody::Mutable::No);
   }
   if (const plist::Dictionary* dictionary = value.dictionary()) {
-    return make<platform::Object, DictionaryBody>(*dictionary, DictionaryBody::Mutable::No);
+    return make<platform::Object, DictionaryBody>(PropertyListFile{Entries(*dictionary)},
+                                                  DictionaryBody::Mutable::No);
   }
   return make<platform::Object, ValueBody>(value);
 }
@@ -70,7 +71,7 @@ plist::Value unbox(const platform::Object& object) {
   if (const auto* scalar = bodyAs<ValueBody>(object)) return scalar->value;
   if (const auto* array = bodyAs<ArrayBody>(object)) return plist::Value(array->elements.values());
   if (const auto* dictionary = bodyAs<DictionaryBody>(object)) {
-    return plist::Value(dictionary->dictionary);
+    return plist::Value(dictionary->file.entries.all());
   }
   throw invalidArgument(debugDescription(object) + " cannot stand in a property list");
 }

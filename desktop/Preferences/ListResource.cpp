@@ -77,9 +77,10 @@ ListResource readListResource(const std::string& name, platform::PSListControlle
   const std::string path = phone.bundle + "/" + name + ".plist";
   try {
     const auto file = readPropertyList(phone.folder, path);
-    const plist::Value* items = file ? file->dictionary.find("items") : nullptr;
+    const plist::Dictionary list = file ? file->entries.all() : plist::Dictionary();
+    const plist::Value* items = list.find("items");
     if (items && items->array()) {
-      return {textAt(file->dictionary, "title"), specifiersFrom(*items->array(), target)};
+      return {textAt(list, "title"), specifiersFrom(*items->array(), target)};
     }
     phone.report(path + " has no list of rows");
   } catch (const UnreadableFile& reason) {

@@ -2,6 +2,7 @@
 #include <new>
 
 #include "plist/Document.h"
+#include "plist/PlainBinary.h"
 #include "tests/plist/Allocation.h"
 #include "tests/plist/Build.h"
 #include "tests/plist/Random.h"
@@ -43,6 +44,26 @@ TEST(DeniedMemory, ReadingBinaryIsWholeOrNothing) {
   const Value value = sample();
   const std::string file = writeBinary(value);
   denyEach([&] { EXPECT_TRUE(read(file).root == value); });
+}
+
+TEST(DeniedMemory, ChangingAFileIsWholeOrNothing) {
+  Dictionary all;
+  all.set("trees", sample());
+  all.set("name", Value::string("aurora"));
+  const std::string file = writeBinary(Value(all));
+  const Value longer = Value::string(std::string(100, 'x'));
+  denyEach([&] {
+    std::string bytes = file;
+    auto plain = PlainBinary::in(bytes);
+    try {
+      EXPECT_TRUE(plain->set("name", longer));
+    } catch (const std::bad_alloc&) {
+      EXPECT_TRUE(plain->bytes() == file);
+      throw;
+    }
+    EXPECT_TRUE(plain->find("name") == longer);
+    EXPECT_TRUE(plain->find("trees") == *all.find("trees"));
+  });
 }
 
 TEST(DeniedMemory, ReadingXmlIsWholeOrNothing) {

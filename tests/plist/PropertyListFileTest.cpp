@@ -25,7 +25,7 @@ class WrittenFile : public testing::Test {
   Form formAfterWriting(const PropertyListFile& file) {
     writePropertyList(folder, kPath, file);
     const PropertyListFile after = readPropertyList(folder, kPath).value();
-    EXPECT_EQ(after.dictionary, file.dictionary);
+    EXPECT_EQ(after.entries.all(), file.entries.all());
     return after.form;
   }
 
@@ -55,7 +55,7 @@ std::string inDictionary(const std::string& element) {
 TEST_F(WrittenFile, DeepXmlStaysReadable) {
   PropertyListFile file = given(inDictionary(
       repeated("<array>", 490) + repeated("<true/>", 100'000) + repeated("</array>", 490)));
-  file.dictionary.set("b", Value(true));
+  file.entries.set("b", Value(true));
   EXPECT_EQ(formAfterWriting(file), Form::Xml);
 }
 
@@ -63,7 +63,7 @@ TEST_F(WrittenFile, Utf16ThatIsTooLargeInUtf8BecomesBinary) {
   const auto wide = [](const std::string& ascii) { return samples::utf16(ascii, true).substr(2); };
   PropertyListFile file = given(samples::utf16("<plist><dict><key>a</key><string>", true) +
                                 std::string(6 << 20, '\x4E') + wide("</string></dict></plist>"));
-  file.dictionary.set("b", Value(true));
+  file.entries.set("b", Value(true));
   EXPECT_EQ(formAfterWriting(file), Form::Binary);
 }
 
@@ -74,14 +74,14 @@ TEST_F(WrittenFile, OneKeyBeyondTheNodesIsRefused) {
         given(inDictionary("<array>" + repeated("<true/>", 249'997) + "</array>"));
     file.form = form;
     EXPECT_EQ(formAfterWriting(file), form);
-    file.dictionary.set("b", Value(true));
+    file.entries.set("b", Value(true));
     expectRefused(file);
   }
 }
 
 TEST_F(WrittenFile, MoreThanAFileHoldsIsRefused) {
   PropertyListFile file = given(inDictionary("<true/>"));
-  file.dictionary.set("b", Value::data(std::string(plist::Limits().bytes, 'x')));
+  file.entries.set("b", Value::data(std::string(plist::Limits().bytes, 'x')));
   for (const Form form : {Form::Xml, Form::Binary}) {
     file.form = form;
     expectRefused(file);
@@ -96,11 +96,11 @@ TEST_F(WrittenFile, TooDeepIsRefused) {
     outer.append(std::move(deep));
     deep = Value(std::move(outer));
   }
-  file.dictionary.set("b", deep);
+  file.entries.set("b", deep);
   EXPECT_EQ(formAfterWriting(file), Form::Xml);
   plist::Array outer;
   outer.append(deep);
-  file.dictionary.set("b", Value(outer));
+  file.entries.set("b", Value(outer));
   expectRefused(file);
 }
 

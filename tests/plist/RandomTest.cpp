@@ -1,33 +1,13 @@
-#include <cstdlib>
 #include <gtest/gtest.h>
 
 #include "plist/Document.h"
 #include "tests/plist/Describe.h"
-#include "tests/plist/Random.h"
+#include "tests/plist/RandomTree.h"
 
 namespace plist {
 namespace {
 
-/// QUILLMERE_ROUNDS multiplies the work, QUILLMERE_SEED repeats a failure.
-std::uint64_t setting(const char* name, std::uint64_t otherwise) {
-  const char* const text = std::getenv(name);
-  return text == nullptr ? otherwise : std::strtoull(text, nullptr, 10);
-}
-
-class RandomTree : public testing::Test {
- protected:
-  template <typename Check>
-  void forEach(const samples::Variety& variety, Check&& check) {
-    const std::uint64_t first = setting("QUILLMERE_SEED", std::random_device{}());
-    const std::uint64_t rounds = setting("QUILLMERE_ROUNDS", 500);
-    for (std::uint64_t seed = first; seed < first + rounds; ++seed) {
-      SCOPED_TRACE("QUILLMERE_SEED=" + std::to_string(seed));
-      std::mt19937_64 random(seed);
-      check(samples::randomTree(random, variety));
-      if (HasFailure()) break;
-    }
-  }
-};
+using samples::RandomTree;
 
 TEST_F(RandomTree, SurvivesBinaryExactly) {
   forEach({}, [](const Value& tree) {

@@ -82,9 +82,10 @@ plist::Form formOf(const std::string& path) {
 BOOL writeFile(NSDictionary* self, SEL, NSString* path, BOOL atomically) {
   using desktop::DictionaryBody;
   const platform::Object contents = handle(self);
+  desktop::PropertyListFile file = desktop::bodyAs<DictionaryBody>(contents)->file;
+  file.form = formOf([path UTF8String]);
   const auto written = desktop::make<platform::NSMutableDictionary, DictionaryBody>(
-      desktop::bodyAs<DictionaryBody>(contents)->dictionary, DictionaryBody::Mutable::Yes,
-      formOf([path UTF8String]));
+      std::move(file), DictionaryBody::Mutable::Yes);
   return written.writeToFile(handle<platform::NSString>(path),
                              platform::Atomically(bool(atomically)));
 }

@@ -75,8 +75,9 @@ platform::Object dictionaryHandle(NSDictionary* dictionary) {
     contents.set([key UTF8String], desktop::unbox(handle([dictionary objectForKey:key])));
   }
   const bool isMutable = [dictionary isKindOfClass:[NSMutableDictionary class]];
-  return desktop::make<platform::Object, DictionaryBody>(std::move(contents),
-                                                         DictionaryBody::Mutable(isMutable));
+  return desktop::make<platform::Object, DictionaryBody>(
+      desktop::PropertyListFile{desktop::Entries(std::move(contents))},
+      DictionaryBody::Mutable(isMutable));
 }
 
 NSString* text(std::string_view utf8) {
@@ -108,7 +109,7 @@ id arrayObject(const desktop::ArrayBody& body) {
 
 id dictionaryObject(const desktop::DictionaryBody& body) {
   NSMutableDictionary* entries = [NSMutableDictionary dictionary];
-  for (const auto& entry : body.dictionary) {
+  for (const auto& entry : body.file.entries.all()) {
     [entries setObject:object(desktop::box(entry.value())) forKey:text(entry.key())];
   }
   return body.className() == "NSMutableDictionary"
