@@ -1,4 +1,4 @@
-#include <cstddef>
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -11,18 +11,26 @@ namespace {
 // The pairs still to compare stand in a list, not on the stack, so depth costs no stack.
 using Pairs = std::vector<std::pair<const Value*, const Value*>>;
 
-bool addPairs(const Array& left, const Array& right, Pairs& pairs) {
-  if (left.size() != right.size()) return false;
-  for (std::size_t at = 0; at < left.size(); ++at) pairs.emplace_back(&left[at], &right[at]);
+bool equalHere(const Value& left, const Value& right, Pairs& pairs);
+
+/// Compares what needs no list, which is most of what stands in one.
+bool equalOrAdded(const Value& left, const Value& right, Pairs& pairs) {
+  if (Internals::kind(left) < Internals::Kind::Array) return equalHere(left, right, pairs);
+  pairs.emplace_back(&left, &right);
   return true;
+}
+
+bool addPairs(const Array& left, const Array& right, Pairs& pairs) {
+  return std::equal(
+      left.begin(), left.end(), right.begin(), right.end(),
+      [&](const Value& one, const Value& other) { return equalOrAdded(one, other, pairs); });
 }
 
 bool addPairs(const Dictionary& left, const Dictionary& right, Pairs& pairs) {
   if (left.size() != right.size()) return false;
   for (const Dictionary::Entry& entry : left) {
     const Value* const other = right.find(entry.key());
-    if (other == nullptr) return false;
-    pairs.emplace_back(&entry.value(), other);
+    if (other == nullptr || !equalOrAdded(entry.value(), *other, pairs)) return false;
   }
   return true;
 }

@@ -26,6 +26,9 @@ class PlainBinary {
   /// The value of `key`; none if there is no such key. Throws std::bad_alloc.
   [[nodiscard]] std::optional<Value> find(std::string_view key) const;
 
+  /// Whether the key has exactly that value; a list of texts is compared where it stands.
+  [[nodiscard]] bool holds(std::string_view key, const Value& value) const;
+
   /// Gives the key the value in place of the one that it has. False, and nothing changed, where
   /// that takes more than other bytes for that one value: for a new key, an array, a dictionary,
   /// or where the file would outgrow its offsets or the limits. Throws std::bad_alloc.
@@ -33,6 +36,9 @@ class PlainBinary {
 
   /// All of it. Throws std::bad_alloc.
   [[nodiscard]] Dictionary dictionary() const;
+
+  /// All of it with another value for the key, whose own is not read. Throws std::bad_alloc.
+  [[nodiscard]] Dictionary with(std::string_view key, Value value) const;
 
   /// The file, which read() reads.
   [[nodiscard]] const std::string& bytes() const noexcept { return bytes_; }

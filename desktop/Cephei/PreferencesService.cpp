@@ -20,12 +20,10 @@ std::string pendingPathOf(const std::string& domain) {
   return std::string(folder) + domain + std::string(pendingEnding);
 }
 
-/// Whether a file of that form that holds `present` holds `value`: XML has one width of real.
-bool isStoredAs(const plist::Value& present, const plist::Value& value, plist::Form form) {
-  if (form == plist::Form::Xml && value.singleReal()) {
-    return present == plist::Value::real(*value.real());
-  }
-  return present == value;
+/// Whether the file holds the value as it can: XML has one width of real.
+bool holds(const PropertyListFile& file, const std::string& key, const plist::Value& value) {
+  const bool widens = file.form == plist::Form::Xml && value.singleReal();
+  return file.entries.holds(key, widens ? plist::Value::real(*value.real()) : value);
 }
 
 /// Whether its readers change a part of it and store it as a whole.
@@ -140,8 +138,7 @@ void PreferencesService::store(const std::string& domain, const std::string& key
   }
   merge(domain, state);
   Entries& entries = state.file.entries;
-  const std::optional<plist::Value> present = entries.find(key);
-  if (value ? present && isStoredAs(*present, *value, state.file.form) : !present) return;
+  if (value ? holds(state.file, key, *value) : !entries.find(key)) return;
   if (value) {
     entries.set(key, *value);
   } else {

@@ -11,9 +11,14 @@ std::optional<plist::Value> Entries::find(std::string_view key) const {
   return found ? std::optional(*found) : std::nullopt;
 }
 
+bool Entries::holds(std::string_view key, const plist::Value& value) const {
+  return file() ? file()->holds(key, value) : find(key) == value;
+}
+
 void Entries::set(std::string_view key, const plist::Value& value) {
   auto* plain = std::get_if<PlainBinary>(&kept_);
-  if (!plain || !plain->set(key, value)) all().set(key, value);
+  if (!plain) return std::get<Dictionary>(kept_).set(key, value);
+  if (!plain->set(key, value)) kept_ = plain->with(key, value);
 }
 
 Dictionary Entries::all() const {

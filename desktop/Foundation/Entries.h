@@ -19,6 +19,8 @@ class Entries {
   explicit Entries(plist::PlainBinary file) : kept_(std::move(file)) {}
 
   std::optional<plist::Value> find(std::string_view key) const;
+  /// Whether the key has exactly that value.
+  bool holds(std::string_view key, const plist::Value& value) const;
   void set(std::string_view key, const plist::Value& value);
 
   /// All of them.

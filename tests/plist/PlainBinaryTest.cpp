@@ -32,8 +32,10 @@ TEST(PlainBinary, FindsWhatIsRead) {
   const auto plain = taken(fileOf(settings()));
   ASSERT_TRUE(plain);
   for (const auto& entry : settings()) EXPECT_EQ(plain->find(entry.key()), entry.value());
-  EXPECT_FALSE(plain->find("none"));
-  EXPECT_FALSE(plain->find(""));
+  for (const char* const key : {"none", ""}) {
+    EXPECT_FALSE(plain->find(key));
+    EXPECT_FALSE(plain->holds(key, Value(true)));
+  }
   EXPECT_EQ(plain->dictionary(), settings());
 }
 
@@ -116,50 +118,47 @@ TEST(PlainBinary, KeepsWithinTheLimits) {
   EXPECT_FALSE(plain->set("size", Value::integer(300)));
 }
 
-struct Layout {
-  const char* name;
-  std::vector<std::string> objects;
-};
-
-void PrintTo(const Layout& layout, std::ostream* out) { *out << layout.name; }
-
-class OtherLayout : public testing::TestWithParam<Layout> {};
-
-TEST_P(OtherLayout, IsLeftToTheReader) {
-  std::string file = binaryFile(GetParam().objects);
-  EXPECT_FALSE(PlainBinary::in(file));
-  EXPECT_FALSE(file.empty());
+Value list(std::initializer_list<Value> elements) {
+  Array array;
+  for (const Value& element : elements) array.append(element);
+  return Value(array);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Table, OtherLayout,
-    testing::Values(
-        Layout{"Array", {hex("A1 01"), hex("09")}}, Layout{"Text", {hex("51 61")}},
-        Layout{"ValuesBeforeKeys", {hex("D1 02 01"), hex("09"), hex("51 61")}},
-        Layout{"SharedValue", {hex("D2 01 02 03 03"), hex("51 61"), hex("51 62"), hex("51 63")}},
-        Layout{"KeyAsItsValue", {hex("D1 01 01"), hex("51 61")}},
-        Layout{"UnusedObject", {hex("D1 01 02"), hex("51 61"), hex("09"), hex("09")}},
-        Layout{"UnusedObjectBetween", {hex("D1 01 03"), hex("51 61"), hex("09"), hex("09")}},
-        Layout{"UnusedContainerOfItself", {hex("D0"), hex("A1 01")}},
-        Layout{"DepthBeforeBreadth",
-               {hex("D2 01 02 03 05"), hex("51 61"), hex("51 62"), hex("A1 04"), hex("09"),
-                hex("A0")}},
-        Layout{"KeyThatIsAnInteger", {hex("D1 01 02"), hex("10 01"), hex("09")}},
-        Layout{"InnerKeyThatIsAnInteger",
-               {hex("D1 01 02"), hex("51 61"), hex("D1 03 04"), hex("10 01"), hex("09")}},
-        Layout{"AsciiWithHighByte", {hex("D1 01 02"), hex("51 80"), hex("09")}},
-        Layout{"LongAsciiWithHighByte", {hex("D1 01 02"), hex("5F 10 01 80"), hex("09")}},
-        Layout{"Null", {hex("D1 01 02"), hex("51 61"), hex("00")}},
-        Layout{"InItself", {hex("D1 01 00"), hex("51 61")}}),
-    [](const auto& test) { return test.param.name; });
+/// Lists of texts are compared where they stand, all others once they are read.
+TEST(PlainBinary, TellsWhatItHolds) {
+  const Value values[] = {
+      list({}),
+      list({Value::string("a"), Value::string("ü")}),
+      list({Value::string("a"), Value::string("u")}),
+      list({Value::string("a"), Value::data("u")}),
+      list({Value::string("a"), list({Value::string("u")})}),
+      list({Value::string("a")}),
+      Value::string("a"),
+      Value::integer(1),
+      Value::real(1.0F),
+      Value::real(1.0),
+      Value(settings()),
+  };
+  for (const Value& held : values) {
+    Dictionary all = settings();
+    all.set("list", held);
+    const auto plain = taken(fileOf(all));
+    for (const Value& other : values) {
+      EXPECT_EQ(plain->holds("list", other), &held == &other);
+    }
+  }
+}
 
-TEST(PlainBinary, LeavesObjectsWithSomethingBetween) {
-  std::string file = binaryFile({hex("D1 01 02"), hex("51 61 FF"), hex("09")});
-  EXPECT_NO_THROW(read(file));
-  EXPECT_FALSE(taken(file));
-  file = binaryFile({hex("D1 01 02"), hex("51 61"), hex("09 FF")});
-  EXPECT_NO_THROW(read(file));
-  EXPECT_FALSE(taken(file));
+TEST(PlainBinary, IsReadWithoutWhatIsReplaced) {
+  const auto plain = taken(fileOf(settings()));
+  for (const char* const key : {"size", "größe", "names", "new"}) {
+    Dictionary all = settings();
+    all.set(key, list({Value::string("other")}));
+    EXPECT_EQ(fileOf(plain->with(key, list({Value::string("other")}))), fileOf(all));
+  }
+  EXPECT_EQ(plain->bytes(), fileOf(settings()));
+  const auto empty = taken(fileOf({}));
+  EXPECT_EQ(*empty->with("new", Value(true)).find("new"), Value(true));
 }
 
 TEST(PlainBinary, OfRepeatedKeysTheFirstCounts) {
@@ -183,6 +182,7 @@ TEST_F(RandomTree, IsChangedInItsFileAsInMemory) {
     const Dictionary before = all;
     for (const auto& entry : before) {
       EXPECT_EQ(plain->find(entry.key()), entry.value());
+      EXPECT_TRUE(plain->holds(entry.key(), entry.value()));
       const Value& other = before.begin()->value();
       if (!plain->set(entry.key(), other)) continue;
       // Written anew it would share the bytes that here stand twice.
@@ -210,6 +210,10 @@ TEST_F(RandomTree, DamagedFilesAreTakenOnlyWhereTheyAreRead) {
       ASSERT_NE(root.dictionary(), nullptr);
       for (const auto& entry : *root.dictionary()) {
         EXPECT_EQ(plain->find(entry.key()), entry.value());
+        EXPECT_TRUE(plain->holds(entry.key(), entry.value()));
+        Dictionary other = *root.dictionary();
+        other.set(entry.key(), Value(true));
+        EXPECT_EQ(plain->with(entry.key(), Value(true)), other);
       }
     }
   });
