@@ -96,7 +96,8 @@ void addContent(Tree& tree, json& node, const Page& page, const Viewport& viewpo
                 Pictures& pictures) {
   const auto* list = bodyAs<TableBody>(stateOf(page).table);
   node["header"] = list ? addView(tree, list->header, pictures) : json(nullptr);
-  node["scrolls"] = list && desktop::listensToScrolling(*page.controller);
+  const bool scrolls = list && desktop::listensToScrolling(*page.controller);
+  node["offset"] = scrolls ? json(list->contentOffset.y) : json(nullptr);
   node["children"] = json::array();
   node["covers"] = json::array();
   for (std::size_t section = 0; section < page.sections.size(); ++section) {

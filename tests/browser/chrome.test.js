@@ -1,6 +1,7 @@
 import assert from 'node:assert/strict';
 import { eventually } from './fixture/eventually.js';
 import { scenario } from './fixture/scenario.js';
+import { ready } from './fixture/screen.js';
 
 const toggle = ({ page }) => page.locator('.bar').getByRole('switch', { name: 'Quillmere' });
 const prompt = ({ page }) => page.getByRole('alertdialog');
@@ -79,6 +80,67 @@ scenario('the icon takes the title’s place as soon as the rows are more than 6
       [['scroll', 60], ['scroll', 61], ['scroll', 200], ['scroll', 60]]);
     await screen.page.getByRole('heading', { level: 1, name: 'Quillmere' }).waitFor();
   });
+
+scenario('however often the rows move, the page is told at most once a frame', small,
+  async (screen) => {
+    const frames = 5;
+    // Each way down is one that the browser reports, and some that it might report as well.
+    await screen.page.locator('.content').evaluate(async (content, count) => {
+      for (let frame = 1; frame <= count; ++frame) {
+        for (const y of [1, 2, 3]) {
+          content.scrollTop = 10 * frame + y;
+          content.dispatchEvent(new Event('scroll'));
+        }
+        await new Promise(requestAnimationFrame);
+      }
+    }, frames);
+    await eventually(() => assert.equal(screen.touches.at(-1)?.y, 10 * frames + 3));
+    await screen.answered();
+    assert.ok(screen.touches.length <= frames, `${screen.touches.length} messages`);
+  });
+
+/** Where the rows stand, in points. */
+const offset = (page) => page.locator('.content').evaluate((content) => content.scrollTop);
+
+scenario('after a reload, and in a later window, the rows stand where they stood, with the icon',
+  small, async (screen) => {
+    await screen.page.locator('.content').evaluate((content) => (content.scrollTop = 130));
+    await expectTitle(screen, 0, 1);
+    await screen.page.reload();
+    await ready(screen.page);
+    await expectTitle(screen, 0, 1);
+    assert.equal(await offset(screen.page), 130);
+    const later = await screen.newPage();
+    await later.goto(`${screen.home}/`);
+    await ready(later);
+    await eventually(async () => assert.equal(await offset(later), 130));
+    await screen.answered();
+    assert.deepEqual(screen.touches.map(({ kind, y }) => [kind, y]), [['scroll', 130]]);
+  });
+
+scenario('a reload in a window that is too tall to scroll brings the title back', small,
+  async (screen) => {
+    await screen.page.locator('.content').evaluate((content) => (content.scrollTop = 130));
+    await expectTitle(screen, 0, 1);
+    await screen.page.goto('about:blank');
+    await screen.page.setViewportSize({ width: 390, height: 2000 });
+    await screen.page.goto(`${screen.home}/`);
+    await ready(screen.page);
+    await expectTitle(screen, 1, 0);
+    assert.equal(await offset(screen.page), 0);
+  });
+
+scenario('a page that is uncovered after a reload stands where it stood', small, async (screen) => {
+  await screen.page.locator('.content').evaluate((content) => (content.scrollTop = 130));
+  await expectTitle(screen, 0, 1);
+  await screen.push('Clock');
+  await screen.page.reload();
+  await ready(screen.page);
+  await screen.pop('Quillmere');
+  await expectTitle(screen, 0, 1);
+  await eventually(async () =>
+    assert.equal(await offset(screen.page.locator('.page:not([inert])')), 130));
+});
 
 scenario('title and icon fade into each other in 0.2 seconds',
   { look: { ...small.look, reducedMotion: 'no-preference' } }, async (screen) => {

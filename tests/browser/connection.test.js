@@ -110,3 +110,16 @@ wired('a prompt is still there once the connection is, and has the keyboard',
     await prompt.waitFor({ state: 'detached' });
     assert.equal(await screen.page.evaluate(() => document.activeElement.innerText), 'Respring');
   });
+
+wired('rows that moved without a connection stand where the phone’s do once there is one',
+  async (screen, wire) => {
+    const content = screen.page.locator('.content');
+    await screen.page.setViewportSize({ width: 390, height: 500 });
+    wire.cut();
+    await says(screen, lost);
+    await content.evaluate((rows) => (rows.scrollTop = 130));
+    wire.mend();
+    await says(screen, '');
+    await eventually(async () => assert.equal(await content.evaluate((rows) => rows.scrollTop), 0));
+    assert.deepEqual(screen.touches, []);
+  });

@@ -92,9 +92,10 @@ TEST_F(ChromeTest, TheHeaderIsAPictureAboveTheRows) {
 }
 
 TEST_F(ChromeTest, ScrollingBringsTheIconAndBackTheTitle) {
-  EXPECT_EQ(page()["scrolls"], true);
+  EXPECT_EQ(page()["offset"], 0);
   EXPECT_EQ(alphas(), std::pair(1.0, 0.0));
   touch(scrolling("page1", 60.5));
+  EXPECT_EQ(page()["offset"], 60.5);
   EXPECT_EQ(alphas(), std::pair(0.0, 1.0));
   EXPECT_EQ(node(node(page()["titleView"])["children"][0])["fade"], 0.2);
   touch(scrolling("page1", -30));
@@ -108,7 +109,7 @@ TEST_F(ChromeTest, OnlyThePageOnTopScrolls) {
   EXPECT_EQ(refusal(json{{"kind", "scroll"}, {"id", "page1"}, {"y", "100"}}),
             "\"y\" is of the wrong type");
   tap(clockRow);
-  EXPECT_EQ(tree().at("page2")["scrolls"], false);
+  EXPECT_EQ(tree().at("page2")["offset"], nullptr);
   EXPECT_EQ(refusal(scrolling("page1", 100)), "page1 does not scroll");
   tap("page2.back");
   EXPECT_EQ(alphas(), std::pair(1.0, 0.0));

@@ -24,7 +24,7 @@ TEST_F(ScreenTest, ShowsTheQuickActionsPageExactly) {
                "banner": null},
     "page1": {"kind": "page", "title": "Quillmere"},
     "page2": {"kind": "page", "title": "Quick Actions", "back": "page2.back", "titleView": null,
-      "trailing": null, "header": null, "covers": [], "scrolls": false,
+      "trailing": null, "header": null, "covers": [], "offset": null,
       "style": {"translucent": true, "tint": "#f69240ff", "bar": "#f69240ff", "barText": "#ffffffff",
                 "barTint": "#ffffffff", "text": "#f69240ff", "separator": "#00000000"},
       "children": ["page2.group0", "page2.group1", "page2.group2"]},

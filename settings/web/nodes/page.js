@@ -13,7 +13,8 @@ export function create(_, context) {
   const middle = element('div', { class: 'middle' }, title, titleView);
   const bar = element('header', { class: 'bar' }, leading, middle, trailing);
   const page = element('div', { class: 'page' }, bar, content, covers);
-  const view = { element: page, title, content, children: [], scrolled: 0, left: null };
+  const view = { element: page, title, content, children: [], scrolled: 0, left: null,
+                 offset: null };
   Object.assign(view, { places: { titleView, back: leading, trailing, header }, list, covers });
   watch(view, context);
   return Object.assign(view, {
@@ -26,7 +27,7 @@ export function create(_, context) {
 /** A covered page is sent without its rows; it keeps showing those it had while it slides away. */
 export function update(view, node, context) {
   if (!context.isTop()) return;
-  Object.assign(view, { scrolls: node.scrolls, children: node.children });
+  Object.assign(view, { offset: node.offset, children: node.children });
   setText(view.title, node.title);
   view.title.classList.toggle('unseen', Boolean(node.titleView));
   dress(view, node.style);
@@ -35,6 +36,32 @@ export function update(view, node, context) {
   }
   context.place(view.list, node.children);
   context.place(view.covers, node.covers ?? []);
+  if (!isLive(view)) stand(view, context);
+}
+
+/** Whether somebody can move it: a page that is gone, or lies below something, tells nothing. */
+function isLive({ element: page }) {
+  return page.isConnected && !page.closest('[inert]');
+}
+
+/**
+ * Brings a page that nobody could move meanwhile to where it stands on the phone, in a later window
+ * or after a reload, say. Once it is live it tells if it has not the room for that.
+ */
+function stand(view, context) {
+  view.told = view.offset;
+  if (view.offset === null) return;
+  requestAnimationFrame(() => {
+    view.content.scrollTop = view.offset;
+    tell(view, context);
+  });
+}
+
+function tell(view, context) {
+  const y = view.content.scrollTop;
+  if (view.offset === null || y === view.told || !isLive(view)) return;
+  view.told = y;
+  context.touch({ kind: 'scroll', y });
 }
 
 function dress(view, { translucent, ...colors }) {
@@ -54,22 +81,19 @@ function eachFrame(act) {
   }));
 }
 
-/** Follows what comes into view. A page that is gone, or lies below something, tells nothing. */
+/** Follows what comes into view. */
 function watch(view, context) {
   const { element: page, content } = view;
-  const isLive = () => page.isConnected && !page.closest('[inert]');
   const look = eachFrame(() => {
-    if (isLive()) for (const id of view.children) context.view(id).look?.();
+    if (isLive(view)) for (const id of view.children) context.view(id).look?.();
   });
-  const tell = eachFrame(() => {
-    if (view.scrolls && isLive()) context.touch({ kind: 'scroll', y: content.scrollTop });
-  });
+  const moved = eachFrame(() => tell(view, context));
   new ResizeObserver(look).observe(content);
   content.addEventListener('scroll', () => {
     // At rest nothing lies below the bar, and it wears its color in full.
     page.classList.toggle('scrolled', content.scrollTop > 0);
     look();
-    tell();
+    moved();
   });
 }
 
