@@ -28,10 +28,17 @@ class ArrayBody final : public Body {
 };
 
 /// Raises `NSInvalidArgumentException` for none, which no array holds.
-void requireObject(const platform::Object& object);
+inline void requireObject(const platform::Object& object) {
+  if (!object) throw invalidArgument("an array takes no nil object");
+}
+
+/// An `NSRangeException` that names the index of no object of an array.
+Exception beyondTheEnd(std::size_t index);
 
 /// Raises `NSRangeException` for the index of none of `count` objects.
-void requireIndex(std::size_t index, std::size_t count);
+inline void requireIndex(std::size_t index, std::size_t count) {
+  if (index >= count) throw beyondTheEnd(index);
+}
 
 /// The objects of an array that is an argument; none has none. Raises
 /// `NSInvalidArgumentException` for objects of other classes.

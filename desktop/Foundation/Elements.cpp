@@ -66,14 +66,6 @@ class Sought {
 
 }  // namespace
 
-std::size_t Elements::size() const {
-  return std::visit([](const auto& all) { return all.size(); }, kept_);
-}
-
-Object Elements::operator[](std::size_t index) const {
-  return std::visit([&](const auto& all) { return objectOf(all[index]); }, kept_);
-}
-
 std::vector<Object> Elements::objects() const {
   if (const auto* all = std::get_if<std::vector<Object>>(&kept_)) return *all;
   std::vector<Object> made;

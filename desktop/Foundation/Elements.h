@@ -4,6 +4,7 @@
 #include <variant>
 #include <vector>
 
+#include "desktop/Foundation/Values.h"
 #include "platform/Object.h"
 #include "plist/Value.h"
 
@@ -18,10 +19,15 @@ class Elements {
   explicit Elements(plist::Array values) : kept_(std::move(values)) {}
   explicit Elements(std::vector<platform::Object> objects) : kept_(std::move(objects)) {}
 
-  std::size_t size() const;
+  std::size_t size() const {
+    return std::visit([](const auto& all) { return all.size(); }, kept_);
+  }
 
   /// The object at `index`, which must be below size().
-  platform::Object operator[](std::size_t index) const;
+  platform::Object operator[](std::size_t index) const {
+    if (const auto* values = std::get_if<plist::Array>(&kept_)) return box((*values)[index]);
+    return std::get<std::vector<platform::Object>>(kept_)[index];
+  }
 
   /// All of them.
   std::vector<platform::Object> objects() const;

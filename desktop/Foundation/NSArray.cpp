@@ -32,14 +32,8 @@ bool ArrayBody::isEqual(const Body& other) const {
                                     [](const auto& a, const auto& b) { return a.isEqual(b); });
 }
 
-void requireObject(const platform::Object& object) {
-  if (!object) throw invalidArgument("an array takes no nil object");
-}
-
-void requireIndex(std::size_t index, std::size_t count) {
-  if (index >= count) {
-    throw rangeException("index " + std::to_string(index) + " beyond the end of the array");
-  }
+Exception beyondTheEnd(std::size_t index) {
+  return rangeException("index " + std::to_string(index) + " beyond the end of the array");
 }
 
 Elements elementsIn(const platform::NSArray& array) {
