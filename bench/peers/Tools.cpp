@@ -21,7 +21,14 @@ namespace {
 using Folder = std::filesystem::path;
 using Kept = std::shared_ptr<void>;
 
-Kept prepareNothing(const Tool&, std::size_t, const Folder&) { return {}; }
+/// Copies a program of this build, as those of others were when they were installed. One that was
+/// just linked lies in the kernel's memory in small pieces, each of which costs time at its start.
+void install(const char* program, const Folder& path) { std::filesystem::copy_file(program, path); }
+
+Kept prepareNothing(const Tool&, std::size_t, const Folder& folder) {
+  install(QUILLMERE_NOTHING, folder / "nothing");
+  return {};
+}
 
 /// Stores each setting by the tool itself.
 void setEach(const Tool& tool, std::size_t size, const Folder& folder) {
@@ -70,6 +77,7 @@ Kept writeLists(const Tool& tool, std::size_t size, const Folder& folder) {
 
 /// The first command makes the phone, and the product keeps the binary form.
 Kept preparePhone(const Tool& tool, std::size_t size, const Folder& folder) {
+  install(QUILLMERE_SETTINGS, folder / "ours");
   commandOf(tool.set, tool.key, tool.on, folder).run();
   write(preferencesOf(size), plist::Form::Binary,
         folder / "phone/var/mobile/Library/Preferences/com.orvalen.quillmere.plist");
@@ -83,10 +91,10 @@ void replace(std::string& word, std::string_view name, std::string_view by) {
 
 }  // namespace
 
-const Tool nothing{"NOTHING", "NOTHING", "", "", "", prepareNothing};
+const Tool nothing{"DIR/nothing", "DIR/nothing", "", "", "", prepareNothing};
 
-const Tool ours{"OURS get KEY --root DIR/phone",
-                "OURS set KEY VALUE --root DIR/phone",
+const Tool ours{"DIR/ours get KEY --root DIR/phone",
+                "DIR/ours set KEY VALUE --root DIR/phone",
                 "clockEnabled",
                 "on",
                 "off",
@@ -138,13 +146,7 @@ Command commandOf(const char* line, const char* key, const char* value,
     replace(word, "KEY", key);
     replace(word, "VALUE", value);
     // A path comes last: it may hold any name.
-    if (word == "OURS") {
-      word = QUILLMERE_SETTINGS;
-    } else if (word == "NOTHING") {
-      word = QUILLMERE_NOTHING;
-    } else {
-      replace(word, "DIR", folder.native());
-    }
+    replace(word, "DIR", folder.native());
   }
   return Command(words);
 }
