@@ -47,7 +47,9 @@ std::span<const settings::Asset> settings::@function@() {
   return assets;
 }
 ]])
-  set_source_files_properties("${source}" PROPERTIES OBJECT_DEPENDS "${files}")
+  # What optimises at linking does not see what the assembler defines.
+  set_source_files_properties("${source}" PROPERTIES
+    OBJECT_DEPENDS "${files}" COMPILE_OPTIONS -fno-lto)
   target_sources(${target} PRIVATE "${source}")
 endfunction()
 
