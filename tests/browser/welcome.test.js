@@ -24,6 +24,14 @@ scenario('a new phone is greeted with what there is to know', { ios: '14.3' }, a
   await sheet(screen).getByText('Animations for your Lockscreen').waitFor();
   assert.deepEqual(await sheet(screen).getByRole('heading', { level: 3 }).allInnerTexts(),
     ['Info', 'Lockscreen', 'Download']);
+  assert.deepEqual(await sheet(screen).getByRole('listitem').getByRole('paragraph').allInnerTexts(), [
+    'This tweak is an animation engine that can let you run Lottie animations with ease.',
+    'Use Lottie animations to animate your Lockscreen elements.',
+    'You can download and use millions of Lottie animation from your package manager or from '
+      + 'Google and apply them through settings.',
+  ]);
+  assert.equal(await sheet(screen).locator('footer p').innerText(),
+    'Coded with \u2764\uFE0F by Orvalen');
   const icons = await sheet(screen).getByRole('listitem').evaluateAll((items) =>
     items.map((item) => getComputedStyle(item, '::before').maskImage));
   assert.equal(new Set(icons).size, 3);

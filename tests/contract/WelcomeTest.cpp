@@ -80,8 +80,17 @@ TEST_F(Welcome, SaysWhatItWasGiven) {
   ASSERT_TRUE(welcome);
   EXPECT_EQ(welcome->title, "Quillmere");
   EXPECT_EQ(welcome->subtitle, "Animations for your Lockscreen");
-  EXPECT_THAT(welcome->items, ElementsAre(testing::Key("Info"), testing::Key("Lockscreen"),
-                                          testing::Key("Download")));
+  EXPECT_THAT(
+      welcome->items,
+      ElementsAre(
+          testing::Pair("Info",
+                        "This tweak is an animation engine that can let you run Lottie "
+                        "animations with ease."),
+          testing::Pair("Lockscreen", "Use Lottie animations to animate your Lockscreen elements."),
+          testing::Pair("Download",
+                        "You can download and use millions of Lottie animation from your "
+                        "package manager or from Google and apply them through "
+                        "settings.")));
   EXPECT_EQ(welcome->button, "Continue");
   EXPECT_EQ(welcome->caption, "Coded with \u2764\uFE0F by Orvalen");
   EXPECT_EQ(welcome->tint, "#f69240ff");

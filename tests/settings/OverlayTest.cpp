@@ -37,6 +37,10 @@ class OverlayTest : public PhoneScreenTest {
     shown.setSubtitleText("Subtitle");
     shown.setItem_one_title("One");
     shown.setItem_one_description("First");
+    shown.setItem_two_title("Two");
+    shown.setItem_two_description("Second");
+    shown.setItem_three_title("Three");
+    shown.setItem_three_description("Third");
     shown.setButtonTitle("Go");
     shown.setButtonCaption("Caption");
     shown.setPackage_ID("com.orvalen.quillmere");
@@ -113,16 +117,17 @@ TEST_F(OverlayTest, AnAlertIsNoFieldToTypeInto) {
 TEST_F(OverlayTest, TheWelcomeScreenShowsItsPoints) {
   welcome();
   const std::string id = tree().at("window")["overlay"];
-  const json empty = {{"title", ""}, {"description", ""}};
-  EXPECT_EQ(overlay(),
-            (json{{"kind", "welcome"},
-                  {"title", "Title"},
-                  {"subtitle", "Subtitle"},
-                  {"items", {{{"title", "One"}, {"description", "First"}}, empty, empty}},
-                  {"button", {{"id", id + ".continue"}, {"title", "Go"}}},
-                  {"dismiss", id + ".dismiss"},
-                  {"caption", "Caption"},
-                  {"tint", "#ffffffff"}}));
+  EXPECT_EQ(overlay(), (json{{"kind", "welcome"},
+                             {"title", "Title"},
+                             {"subtitle", "Subtitle"},
+                             {"items",
+                              {{{"title", "One"}, {"description", "First"}},
+                               {{"title", "Two"}, {"description", "Second"}},
+                               {{"title", "Three"}, {"description", "Third"}}}},
+                             {"button", {{"id", id + ".continue"}, {"title", "Go"}}},
+                             {"dismiss", id + ".dismiss"},
+                             {"caption", "Caption"},
+                             {"tint", "#ffffffff"}}));
 }
 
 TEST_F(OverlayTest, LeavingTheWelcomeScreenEitherWayIsRemembered) {
