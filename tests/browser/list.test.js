@@ -46,6 +46,37 @@ scenario('the red button asks first, and then disables', five, async (screen) =>
   await expectFocus(screen, 'Delete Comet');
 });
 
+scenario('a row is not there to be tapped', five, async (screen) => {
+  const before = screen.phone.bytes();
+  await screen.push('Lotties');
+  const shown = await screen.page.locator('.page:not([inert])').evaluate((page) => page.outerHTML);
+  const sent = screen.touches.length;
+  for (const [section, name] of [['Enabled', 'Breeze'], ['Disabled', 'Dune']]) {
+    await list(screen).section(section).getByText(name, { exact: true }).click();
+  }
+  await screen.answered();
+  assert.ok(screen.touches.slice(sent).every(({ kind, id }) => kind === 'tap' && /row/.test(id)));
+  assert.equal(await screen.page.locator('.page:not([inert])').evaluate((page) => page.outerHTML),
+    shown);
+  assert.deepEqual(screen.phone.bytes(), before);
+  assert.equal(await screen.page.getByRole('heading', { level: 1 }).innerText(), 'Lotties');
+});
+
+scenario('a finger enables and disables', { ...five, look: { hasTouch: true } }, async (screen) => {
+  await screen.push('Lotties');
+  await list(screen).button('Insert', 'Ember').tap();
+  await expectEnabled(screen, 'Ember', 'Aurora', 'Breeze', 'Comet');
+  await list(screen).button('Delete', 'Aurora').tap();
+  await list(screen).button('Delete', 'Breeze').tap();
+  await list(screen).section('Enabled').getByText('Comet', { exact: true }).tap();
+  await screen.page.getByRole('button', { name: 'Delete Breeze now' }).waitFor({ state: 'hidden' });
+  await list(screen).button('Delete', 'Aurora').tap();
+  await screen.page.getByRole('button', { name: 'Delete Aurora now' }).tap();
+  await expectEnabled(screen, 'Ember', 'Breeze', 'Comet');
+  assert.equal((await list(screen).disabled()).at(-1), 'Aurora');
+  assert.deepEqual(screen.touches.map(({ kind }) => kind).filter((kind) => kind !== 'tap'), []);
+});
+
 /** The ways of thinking better of it; Comet's row is below the one that asks. */
 const ways = {
   'the Escape key': ({ page }) => page.keyboard.press('Escape'),

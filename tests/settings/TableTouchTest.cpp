@@ -37,6 +37,13 @@ TEST_F(TableTouchTest, ADeleteControlAwaitsItsConfirmation) {
   EXPECT_FALSE(confirms("0.2"));
 }
 
+TEST_F(TableTouchTest, ATapOnARowDoesNothingElse) {
+  const settings::Tree before = tree();
+  for (const char* row : {"0.0", "0.2", "1.1", "2.0"}) tap(rowId(row));
+  EXPECT_EQ(tree(), before);
+  EXPECT_EQ(page->changes, Changes{});
+}
+
 TEST_F(TableTouchTest, ATapOnAnyRowTakesTheConfirmationBack) {
   for (const char* row : {"0.0", "0.1", "2.0"}) {
     tapControl("0.1");
