@@ -35,9 +35,12 @@ TEST_F(AnimationListCells, DrawsOtherSectionsRowsAsDisabledOnes) {
 }
 
 TEST_F(AnimationListCells, ShowsNamesInTheAccentColorInBothSections) {
-  open({"Rain.lottie"}, {"Snow"});
+  open({"Rain.lottie", "Fog.lottie"}, {"Snow", "Wind"});
   EXPECT_EQ(phone.cell({0, 0}), (CellFacts{"Snow", "#f69240ff"}));
-  EXPECT_EQ(phone.cell({1, 0}), (CellFacts{"Rain", "#f69240ff"}));
+  EXPECT_EQ(phone.cell({0, 1}), (CellFacts{"Wind", "#f69240ff"}));
+  for (const std::size_t row : {0U, 1U}) {
+    EXPECT_EQ(phone.cell({1, row}), (CellFacts{listed()[row], "#f69240ff"}));
+  }
 }
 
 TEST_F(AnimationListCells, MakesACellWhenThereIsNoneToReuse) {

@@ -79,13 +79,6 @@ TEST_F(AnimationList, ShowsTwoSectionsAlsoWhenBothAreEmpty) {
               ElementsAre(ListSection{"Enabled Lotties", {}}, ListSection{"Disabled Lotties", {}}));
 }
 
-TEST_F(AnimationList, RowsAreThereToBeEditedAndNotToBeTapped) {
-  open({}, {"Snow"});
-  EXPECT_THROW(phone.tap("Snow"), std::runtime_error);
-  EXPECT_THAT(phone.titles(), ElementsAre("Quillmere", "Lotties"));
-  EXPECT_THAT(phone.journal(), IsEmpty());
-}
-
 TEST_F(AnimationList, AnswersForEnabledRows) {
   open({"Rain.lottie"}, {"Snow", "Wind"});
   const ListAnswers expected{2, "Enabled Lotties", 2, true, true, deletion, false};
@@ -151,6 +144,21 @@ TEST_F(AnimationList, EditEndsEditingAndBeginsItAgain) {
   EXPECT_THAT(phone.journal(),
               ElementsAre("UITableView isEditing", "UITableView setEditing:YES animated:YES",
                           "UITableView reloadData"));
+}
+
+TEST_F(AnimationList, EditTitlesTheButtonThatThePageWasGiven) {
+  open({"Rain.lottie"}, {"Snow"});
+  phone.giveEditButton();
+  phone.forget();
+  phone.call("edit");
+  EXPECT_THAT(phone.journal(),
+              ElementsAre("UITableView isEditing", "UIBarButtonItem setTitle:\"Edit\"",
+                          "UITableView setEditing:NO animated:YES", "UITableView reloadData"));
+  phone.forget();
+  phone.call("edit");
+  EXPECT_THAT(phone.journal(),
+              ElementsAre("UITableView isEditing", "UIBarButtonItem setTitle:\"Done\"",
+                          "UITableView setEditing:YES animated:YES", "UITableView reloadData"));
 }
 
 TEST_F(AnimationList, HasNoEditButtonEvenAfterEdit) {

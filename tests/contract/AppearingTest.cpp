@@ -33,6 +33,16 @@ TEST(Appearing, BringsThePagesOwnTitleIntoTheBar) {
   EXPECT_EQ(phone.titleText(), "Another Title");
 }
 
+TEST(Appearing, LeavesTheBarEmptyWhenThePageHasNoTitle) {
+  Driver phone;
+  phone.takeTitleAway();
+  phone.tap("Clock");
+  phone.forget();
+  phone.back();
+  EXPECT_THAT(phone.journal(), testing::Contains("UILabel setText:nil"));
+  EXPECT_EQ(phone.titleText(), "");
+}
+
 TEST(Appearing, LeavesTheTitlesHalvesAlone) {
   Driver phone;
   phone.tap("Clock");

@@ -153,6 +153,11 @@ TEST_F(BarAndHeader, HeaderIsBuiltWhenTheViewIsLoaded) {
   EXPECT_THAT(loading(), ElementsAreArray(header({"UIImage drawInRect:{{0, 0}, {120, 120}}"})));
 }
 
+TEST_F(BarAndHeader, HeaderIsAsWideAsTheTableIsThen) {
+  phone.load(414);
+  EXPECT_THAT(phone.journal(), Contains("UIImageView initWithFrame:{{0, -50}, {414, 130}}"));
+}
+
 TEST_F(BarAndHeader, MissingHeaderPictureLeavesABlankOne) {
   phone.removeBundleFile("Header.png");
   phone.reopen();

@@ -179,6 +179,21 @@ std::string Driver::call(const std::string& selector) {
   return debugDescription(desktop::perform(*state_->top().controller, selector, {}));
 }
 
+void Driver::takeTitleAway() {
+  bodyAs<desktop::NavigationItemBody>(state_->controller().navigationItem)->title = {};
+}
+
+void Driver::load(double width) {
+  desktop::viewOf(state_->controller().table)->frame.size.width = width;
+  state_->top().controller->viewDidLoad();
+}
+
+void Driver::giveEditButton() {
+  desktop::perform(
+      *state_->top().controller, "setEditButton:",
+      desktop::make<platform::UIBarButtonItem, desktop::BarButtonItemBody>(platform::UIView()));
+}
+
 void Driver::setDevice(const Device& device) {
   state_->phone.identity = {device.type, device.version, device.build};
 }

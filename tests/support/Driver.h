@@ -186,6 +186,13 @@ class Driver {
   bool answers(const std::string& selector) const;
   std::string call(const std::string& selector);
 
+  /// Takes the title of the page on top away.
+  void takeTitleAway();
+  /// Has the page on top load once more, its table being that wide, in points.
+  void load(double width);
+  /// Gives the animation list a button to turn editing on and off with.
+  void giveEditButton();
+
   /// What the phone is; iOS 12.5 unless set, so that no welcome screen is in the way.
   void setDevice(const Device& device);
 
