@@ -47,9 +47,7 @@ std::span<const settings::Asset> settings::@function@() {
   return assets;
 }
 ]])
-  # What optimises at linking does not see what the assembler defines.
-  set_source_files_properties("${source}" PROPERTIES
-    OBJECT_DEPENDS "${files}" COMPILE_OPTIONS -fno-lto)
+  set_source_files_properties("${source}" PROPERTIES OBJECT_DEPENDS "${files}")
   target_sources(${target} PRIVATE "${source}")
 endfunction()
 
