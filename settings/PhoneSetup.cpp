@@ -41,10 +41,6 @@ void install(const desktop::PhoneFolder& folder, std::span<const Asset> files) {
   }
 }
 
-bool isPhone(const desktop::PhoneFolder& folder) {
-  return folder.exists("/Library") || folder.exists("/var");
-}
-
 const char* environment(const char* name) {
   const char* value = std::getenv(name);
   return value && *value ? value : nullptr;
@@ -68,21 +64,22 @@ void requireFolder(const fs::path& folder) {
   if (fs::create_directory(folder, error)) {
     std::cerr << "quillmere-settings: made a new phone in " << folder.string() << std::endl;
   }
-  if (!fs::exists(folder)) {
+  const fs::file_status status = fs::status(folder);
+  if (!fs::exists(status)) {
     throw std::runtime_error(folder.string() + " cannot be made (" + error.message() + ")");
   }
-  if (!fs::is_directory(folder)) throw std::runtime_error(folder.string() + " is not a folder");
+  if (!fs::is_directory(status)) throw std::runtime_error(folder.string() + " is not a folder");
   if (access(folder.c_str(), W_OK | X_OK) != 0) {
     throw std::runtime_error(folder.string() + " is not writable (" + std::strerror(errno) + ")");
   }
 }
 
-bool holdsPhone(const fs::path& folder) {
-  return fs::is_directory(folder) && isPhone(desktop::PhoneFolder(folder));
+bool holdsPhone(const desktop::PhoneFolder& folder) {
+  return folder.exists("/Library") || folder.exists("/var");
 }
 
 void setUpPhone(const desktop::PhoneFolder& folder) {
-  const bool isNew = !isPhone(folder) || folder.exists(unfinished);
+  const bool isNew = !holdsPhone(folder) || folder.exists(unfinished);
   if (isNew) folder.makeLink(unfinished, ".");
   for (const char* path : folders) {
     if (!folder.exists(path)) folder.makeFolders(path);

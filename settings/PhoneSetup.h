@@ -16,7 +16,7 @@ void requireFolder(const std::filesystem::path& folder);
 
 /// Whether `folder` is laid out like a phone's file system, or begun to be. Throws
 /// `std::system_error` when that cannot be found out.
-bool holdsPhone(const std::filesystem::path& folder);
+bool holdsPhone(const desktop::PhoneFolder& folder);
 
 /// Lays the folder out like a phone's file system and installs the bundle in it, as a package
 /// would: the bundle's own files are brought up to date, and nothing else is changed. An empty

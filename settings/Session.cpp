@@ -11,13 +11,26 @@ namespace settings {
 
 namespace {
 
+bool onlyReads(const Options& options) {
+  return options.subCommand && options.subCommand->effect == cli::SubCommand::Effect::Reads;
+}
+
+std::filesystem::path rootOf(const Options& options) {
+  return options.root.empty() ? defaultPhoneFolder() : options.root;
+}
+
+void requirePhone(bool isThere, const Options& options) {
+  if (!isThere) throw std::runtime_error("there is no phone in " + rootOf(options).string());
+}
+
+/// Where the phone is to be. Whoever only looks makes no folder.
 std::filesystem::path phoneFolder(const Options& options) {
-  if (!options.root.empty()) {
-    requireFolder(options.root);
-    return options.root;
+  const std::filesystem::path folder = rootOf(options);
+  if (onlyReads(options)) {
+    requirePhone(std::filesystem::is_directory(folder), options);
+    return folder;
   }
-  const std::filesystem::path folder = defaultPhoneFolder();
-  std::filesystem::create_directories(folder.parent_path());
+  if (options.root.empty()) std::filesystem::create_directories(folder.parent_path());
   requireFolder(folder);
   return folder;
 }
@@ -43,15 +56,15 @@ bool isUnlockable(const std::error_code& error) {
   return std::ranges::any_of(reasons, [&](std::errc reason) { return error == reason; });
 }
 
-bool onlyReads(const Options& options) {
-  return options.subCommand && options.subCommand->effect == cli::SubCommand::Effect::Reads;
-}
-
 }  // namespace
 
 Session::Session(const Options& options, boost::asio::io_context& loop)
     : phone(phoneFolder(options)), commands_(loop) {
   const bool reads = onlyReads(options);
+  if (reads) {
+    requirePhone(holdsPhone(phone.folder), options);
+    requireFolder(rootOf(options));
+  }
   std::optional<desktop::Descriptor> held;
   try {
     held.emplace(alone(reads ? patience.zero() : patience));

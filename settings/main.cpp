@@ -16,10 +16,10 @@ namespace {
 /// Gives each standard stream that is closed a place to go. Its number would otherwise go to the
 /// next file or socket, which would then get what is printed.
 void openStandardStreams() {
-  int number;
-  do number = open("/dev/null", O_RDWR);
-  while (number >= 0 && number < STDERR_FILENO);
-  if (number > STDERR_FILENO) close(number);
+  for (const int number : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+    // What is opened gets the lowest number that is free.
+    if (fcntl(number, F_GETFD) < 0) open("/dev/null", O_RDWR);
+  }
 }
 
 }  // namespace

@@ -1,14 +1,11 @@
 #include "settings/cli/Run.h"
 
 #include <cerrno>
-#include <filesystem>
 #include <iostream>
-#include <stdexcept>
 #include <string_view>
 #include <system_error>
 #include <unistd.h>
 
-#include "settings/PhoneSetup.h"
 #include "settings/cli/Hands.h"
 #include "settings/cli/Words.h"
 
@@ -27,18 +24,10 @@ void print(std::string_view text) {
   }
 }
 
-/// Whoever only looks leaves a folder as it is.
-void requirePhone(const Options& options) {
-  if (options.subCommand->effect == SubCommand::Effect::Changes) return;
-  const std::filesystem::path folder = options.root.empty() ? defaultPhoneFolder() : options.root;
-  if (!holdsPhone(folder)) throw std::runtime_error("there is no phone in " + folder.string());
-}
-
 }  // namespace
 
 int run(const Options& options) {
   try {
-    requirePhone(options);
     Hands hands(options);
     print(options.subCommand->perform(hands, options.request));
     return 0;
