@@ -93,6 +93,13 @@ Reference<GMimeContentType> typeOf(const Attachment& attachment) {
       g_mime_content_type_is_type(type.get(), "message", "*")) {
     type.reset(g_mime_content_type_new("application", "octet-stream"));
   }
+  // Text of no charset is taken for ASCII (RFC 2046, 4.1.2).
+  const bool isUtf8 = g_utf8_validate(attachment.bytes.data(),
+                                      static_cast<gssize>(attachment.bytes.size()), nullptr);
+  if (isUtf8 && g_mime_content_type_is_type(type.get(), "text", "*") &&
+      !g_mime_content_type_get_parameter(type.get(), "charset")) {
+    g_mime_content_type_set_parameter(type.get(), "charset", charset);
+  }
   return type;
 }
 

@@ -2,6 +2,7 @@
 #include <cstdlib>
 #include <ctime>
 #include <gtest/gtest.h>
+#include <tuple>
 
 #include "desktop/MessageUI/MimeMessage.h"
 #include "plist/Document.h"
@@ -25,7 +26,8 @@ answer['id'] = message['Message-ID']
 answer['type'] = body.get_content_type()
 answer['charset'] = body.get_content_charset()
 answer['body'] = body.get_content()
-answer['files'] = [[each.get_filename(), each.get_content_type(), each.get_payload(decode=True)]
+answer['files'] = [[each.get_filename(), each.get_content_type(), each.get_payload(decode=True),
+                    each.get_content_charset('none')]
                    for each in message.iter_attachments()]
 answer['to'] = [[each.display_name, each.addr_spec]
                 for each in getattr(message['To'], 'addresses', [])]
@@ -129,6 +131,30 @@ TEST(MimeMessageTest, CarriesFilesByteForByte) {
     EXPECT_EQ(textAt(files[index], 0), message.attachments[index].fileName);
     EXPECT_EQ(textAt(files[index], 1), types[index]);
     EXPECT_EQ((*files[index].array())[2].data(), message.attachments[index].bytes);
+  }
+}
+
+TEST(MimeMessageTest, TellsTheCharsetOfFilesThatAreUtf8) {
+  const std::tuple<const char*, const char*, const char*> files[] = {
+      {"text/plain", "plain", "utf-8"},
+      {"text/plain", "Ünï 日本語", "utf-8"},
+      {"text/html", "<b>é</b>", "utf-8"},
+      {"text/plain", "", "utf-8"},
+      {"text/plain", "\xfcn\xef", "none"},
+      {"text/plain; charset=iso-8859-1", "plain", "iso-8859-1"},
+      {"application/x-thing", "plain", "none"},
+  };
+  MimeMessage message = simple();
+  for (const auto& [type, bytes, charset] : files) {
+    message.attachments.push_back({"file", type, bytes});
+  }
+  const plist::Dictionary read = readBack(format(message));
+  const plist::Array& parts = *read.find("files")->array();
+  ASSERT_EQ(parts.size(), std::size(files));
+  for (std::size_t index = 0; index < parts.size(); ++index) {
+    const auto& [type, bytes, charset] = files[index];
+    EXPECT_EQ(textAt(parts[index], 3), charset) << type << ' ' << bytes;
+    EXPECT_EQ((*parts[index].array())[2].data(), bytes);
   }
 }
 
