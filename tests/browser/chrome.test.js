@@ -152,6 +152,17 @@ scenario('title and icon fade into each other in 0.2 seconds',
     assert.deepEqual(await durations.jsonValue(), [200, 200]);
   });
 
+for (const scale of [1, 2, 3]) {
+  scenario(`the picture above the rows has the pixels of a screen of scale ${scale}`,
+    { arguments: () => ['--screen-scale', String(scale)] }, async ({ page }) => {
+      const picture = page.locator('.header img');
+      await eventually(async () => assert.deepEqual(await picture.evaluate(
+        ({ naturalWidth, naturalHeight, width, height }) =>
+          [naturalWidth, naturalHeight, width, height]),
+      [120 * scale, 120 * scale, 120, 120]));
+    });
+}
+
 scenario('a picture stands above the rows, and the icon fits into the bar', {},
   async ({ page }) => {
     const pictures = page.locator(':is(.header, .title-view) img');

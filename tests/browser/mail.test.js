@@ -1,5 +1,7 @@
 import assert from 'node:assert/strict';
 import { execFileSync } from 'node:child_process';
+import { readFileSync } from 'node:fs';
+import { join } from 'node:path';
 import { eventually } from './fixture/eventually.js';
 import { askPython } from './fixture/python.js';
 import { scenario } from './fixture/scenario.js';
@@ -35,12 +37,14 @@ scenario('the attachment is what dpkg lists, and opens in a tab of its own', {},
     assert.match(await attachment.innerText(), /^dpkgl\.txt\s+[\d.,]+ KB$/);
     const [tab] = await Promise.all([screen.context.waitForEvent('page'), attachment.click()]);
     await tab.waitForLoadState();
-    const text = await tab.evaluate(() => document.body.innerText);
-    const packages = (listed) => listed.split('\n').filter((line) => /^ii /.test(line))
-      .map((line) => line.split(/\s+/)[1]);
-    assert.ok(packages(list).length > 50);
-    assert.deepEqual(packages(text), packages(list));
+    assert.ok(list.split('\n').length > 50);
+    assert.equal(await tab.evaluate(() => document.body.textContent), list);
     await tab.close();
+    await button(screen, 'Send').click();
+    await gone(screen);
+    await screen.answered();
+    const [mail] = screen.phone.mails('Outbox');
+    assert.deepEqual((await askPython('mail', mail)).texts, [list]);
   });
 
 scenario('what is sent lies in the outbox as it was written', {}, async (screen) => {
@@ -58,6 +62,40 @@ scenario('what is sent lies in the outbox as it was written', {}, async (screen)
     { to: 'Anna <anna@example.org>', subject: 'Quillmere Support', files: ['dpkgl.txt'] });
   assert.match(body, /^It flickers – why\?\n\n\nCurrent Device: /);
   assert.deepEqual(screen.phone.mails('Drafts'), []);
+});
+
+const told = {
+  ios: '12.4',
+  arguments: ({ folder }) => ['--ios-build', '16G77', '--product-type', 'iPhone7,2',
+    '--mail-command', `cat > '${folder}/told'; echo done >> '${folder}/times'`],
+};
+
+scenario('the mail tells the device that the command line names, and the user’s command gets it',
+  told, async (screen) => {
+    await write(screen);
+    assert.match(await field(screen, 'Message').inputValue(),
+      /^\n\n\nCurrent Device: iPhone7,2, iOS 12\.4 \(16G77\)$/);
+    await button(screen, 'Send').click();
+    await gone(screen);
+    await screen.answered();
+    const at = (name) => readFileSync(join(screen.phone.folder, name), 'utf8');
+    await eventually(async () => assert.equal(at('times'), 'done\n'));
+    assert.deepEqual(screen.phone.mails('Outbox'), [at('told')]);
+    assert.match((await askPython('mail', at('told'))).body, /iPhone7,2, iOS 12\.4 \(16G77\)/);
+  });
+
+scenario('a draft is not for the user’s command', told, async (screen) => {
+  await cancelEdited(screen);
+  await choices(screen).getByRole('button', { name: 'Save Draft' }).click();
+  await gone(screen);
+  await screen.answered();
+  // Commands run in the order of what they are for, so that one for the draft would be over.
+  await write(screen);
+  await button(screen, 'Send').click();
+  await gone(screen);
+  const times = join(screen.phone.folder, 'times');
+  await eventually(async () => assert.equal(readFileSync(times, 'utf8'), 'done\n'));
+  assert.equal(screen.phone.mails('Drafts').length, 1);
 });
 
 scenario('without anybody to send it to a mail cannot be sent', {}, async (screen) => {
