@@ -21,8 +21,8 @@ using binary::Object;
 /// Whether a file of that size cannot go beyond the limits, whatever text it holds: two bytes of
 /// UTF-16 become three at most.
 bool isWithin(std::size_t bytes, const Limits& limits) {
-  const std::size_t text = bytes + bytes / 2;
-  return bytes <= limits.bytes && text <= limits.text && text <= Internals::kMaxSize;
+  const std::uint64_t mostText = std::min<std::uint64_t>(limits.text, Internals::kMaxSize);
+  return bytes <= limits.bytes && bytes + bytes / 2 <= mostText;
 }
 
 std::string fromUtf16(std::string_view units) {
@@ -32,7 +32,8 @@ std::string fromUtf16(std::string_view units) {
 }
 
 bool isEqual(const Object& text, std::string_view other) {
-  return text.marker == Marker::Ascii ? text.bytes == other : fromUtf16(text.bytes) == other;
+  if (text.marker == Marker::Ascii) return text.bytes == other;
+  return fromUtf16(text.bytes) == other;
 }
 
 /// The number of the object that is the value of the key. The first of equal keys counts.

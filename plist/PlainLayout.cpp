@@ -33,7 +33,7 @@ class Survey {
       if (file_.offset(number) != end_ || end_ >= file_.tableAt()) return false;
       if (!passText() && !pass(number)) return false;
     }
-    return referred_ == file_.objectCount() && end_ == file_.tableAt();
+    return end_ == file_.tableAt();
   }
 
  private:

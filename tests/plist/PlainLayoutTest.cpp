@@ -44,6 +44,7 @@ INSTANTIATE_TEST_SUITE_P(
         Layout{"AsciiWithHighByte", {hex("D1 01 02"), hex("51 80"), hex("09")}},
         Layout{"LongAsciiWithHighByte", {hex("D1 01 02"), hex("5F 10 01 80"), hex("09")}},
         Layout{"Null", {hex("D1 01 02"), hex("51 61"), hex("00")}},
+        Layout{"ValueBeyondTheObjects", {hex("D1 01 02"), hex("51 61"), ""}},
         Layout{"InItself", {hex("D1 01 00"), hex("51 61")}}),
     [](const auto& test) { return test.param.name; });
 
@@ -53,6 +54,12 @@ TEST(PlainLayout, LeavesObjectsWithSomethingBetween) {
   EXPECT_FALSE(PlainBinary::in(file));
   file = binaryFile({hex("D1 01 02"), hex("51 61"), hex("09 FF")});
   EXPECT_NO_THROW(read(file));
+  EXPECT_FALSE(PlainBinary::in(file));
+}
+
+TEST(PlainLayout, LeavesARootThatIsNotTheFirstObject) {
+  std::string file = binaryFile({hex("09"), hex("D0")}, {.topObject = 1});
+  EXPECT_NE(read(file).root.dictionary(), nullptr);
   EXPECT_FALSE(PlainBinary::in(file));
 }
 
