@@ -30,6 +30,10 @@ bool isEqual(const Element& element, const std::optional<std::string_view>& text
 
 /// Objects that are looked for by equality: texts at once, however many there are.
 class Sought {
+  auto isEqualTo(std::string_view text) const {
+    return [this, text](std::uint32_t position) { return texts_[position] == text; };
+  }
+
  public:
   explicit Sought(std::size_t count) : index_(plist::KeyIndex::withRoomFor(count)) {
     texts_.reserve(count);
@@ -55,10 +59,6 @@ class Sought {
   }
 
  private:
-  auto isEqualTo(std::string_view text) const {
-    return [this, text](std::uint32_t position) { return texts_[position] == text; };
-  }
-
   plist::KeyIndex index_;  // of the texts
   std::vector<std::string_view> texts_;
   std::vector<Object> others_;
