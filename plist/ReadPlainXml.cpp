@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "plist/Text.h"
 #include "plist/XmlTree.h"
 
 namespace plist {
@@ -15,6 +16,7 @@ constexpr auto kPlain = [] {
   for (std::size_t letter = ' '; letter <= '~'; ++letter) plain[letter] = true;
   plain['\t'] = plain['\n'] = true;
   plain['<'] = plain['>'] = plain['&'] = false;
+  for (std::size_t byte = 0x80; byte < plain.size(); ++byte) plain[byte] = true;
   return plain;
 }();
 
@@ -80,7 +82,9 @@ bool PlainXmlReader::readElement() {
 bool PlainXmlReader::readText(std::string_view name) {
   std::size_t length = 0;
   while (length < rest_.size() && kPlain[static_cast<unsigned char>(rest_[length])]) ++length;
-  if (length > 0) tree_.text(rest_.substr(0, length));
+  const std::string_view text = rest_.substr(0, length);
+  if (!isAscii(text) && (!isText(text) || !fitsXml(text))) return false;
+  if (length > 0) tree_.text(text);
   rest_.remove_prefix(length);
   if (!skip("</") || !skip(name) || !skip(">")) return false;
   tree_.end();

@@ -13,7 +13,8 @@ std::string file(const std::string& value) {
 
 /// One of everything that plain XML holds.
 const std::string kEverything = file(
-    "<dict>\n\t<key>text</key>\n\t<string>a b\tc\nd ~</string>\n\t<key/>\n\t<string/>\n"
+    "<dict>\n\t<key>text</key>\n\t<string>a b\tc\nd ~ \xC3\xA4 "
+    "\xF0\x9F\x98\x80</string>\n\t<key/>\n\t<string/>\n"
     "\t<key>numbers</key>\n\t<array>\n\t\t<integer>-12</integer>\n\t\t<real>1.5</real>\n"
     "\t\t<true/>\n\t\t<false/>\n\t\t<date>2001-01-01T00:00:01Z</date>\n"
     "\t\t<data>\n\t\tAQID\n\t\t</data>\n\t</array>\n"
@@ -39,7 +40,7 @@ TEST(PlainXml, ReadsWhatExpatReads) {
 
 TEST(PlainXml, LeavesTheRestToExpat) {
   for (const std::string& other :
-       {file("<string>&amp;</string>"), file("<string>\xC3\xA4</string>"),
+       {file("<string>&amp;</string>"), file("<string>\x7F</string>"),
         file("<string>a\r\n</string>"), file("<string>]]></string>"), file("<true />"),
         file("<string><![CDATA[a]]></string>"), file("<!-- none --><true/>"),
         std::string("<plist><true/></plist>")}) {
@@ -52,7 +53,8 @@ TEST(PlainXml, LeavesFaultsToExpat) {
        {file(""), file("<true/><true/>"), file("<dict><true/></dict>"), file("<dict></array>"),
         file("<string>a</key>"), file("<integer>a</integer>"), file("<plist/>"), file("<other/>"),
         file("<true>a</true>"), file("<array>a</array>"), file("<dict><key>a</key></dict>"),
-        file("<true/>") + "<true/>", file("<string>")}) {
+        file("<true/>") + "<true/>", file("<string>"), file("<string>\xC3</string>"),
+        file("<string>\xED\xA0\x80</string>"), file("<string>\xEF\xBF\xBF</string>")}) {
     EXPECT_FALSE(readPlainXml(faulty, {})) << faulty;
   }
 }
