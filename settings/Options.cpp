@@ -2,12 +2,15 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <charconv>
 #include <iostream>
 #include <span>
 #include <string>
 #include <string_view>
 
 #include "desktop/Identity.h"
+#include "settings/Mistake.h"
+#include "settings/cli/Words.h"
 
 namespace settings {
 
@@ -28,6 +31,18 @@ CLI::Validator version() {
   return {[](const std::string& value) {
             return desktop::parseVersion(value) ? ""
                                                 : "\"" + value + "\" is no version, such as 14.3";
+          },
+          ""};
+}
+
+CLI::Validator port() {
+  return {[](const std::string& value) {
+            std::uint16_t number = 0;
+            const char* const end = value.data() + value.size();
+            const auto [stop, error] = std::from_chars(value.data(), end, number);
+            return error == std::errc() && stop == end
+                       ? ""
+                       : "takes 0 to 65535, and not \"" + value + '"';
           },
           ""};
 }
@@ -81,7 +96,8 @@ constexpr Known everyOption[] = {
      [](CLI::App& app, const char* name, Options& options) {
        app.add_option(name, options.iosVersion,
                       "The version of iOS that the phone says it has, such as 14.3\n"
-                      "(default: as its SystemVersion.plist has it)")
+                      "(default: as its SystemVersion.plist has it). The build that stands\n"
+                      "there is of that version: for another one, tell --ios-build as well")
            ->type_name("VERSION")
            ->check(version());
      }},
@@ -119,7 +135,7 @@ constexpr Known everyOption[] = {
      [](CLI::App& app, const char* name, Options& options) {
        app.add_option(name, options.port, "The port to listen on; 0, the default, takes a free one")
            ->type_name("N")
-           ->check(something());
+           ->check(port());
      }},
     {"--no-open",
      [](CLI::App& app, const char* name, Options& options) {
@@ -191,6 +207,13 @@ void requireSense(const CLI::App& app, const Options& options) {
   }
 }
 
+std::vector<std::string> namesOfOptions() {
+  std::vector<std::string> names = {"--help"};
+  for (const Known& option : everyOption) names.emplace_back(option.name);
+  for (const Flag& flag : cli::flags()) names.emplace_back(flag.name);
+  return names;
+}
+
 /// The first of a sub-command's words, which a command line that asks for it begins with.
 std::string_view firstWord(std::string_view name) { return name.substr(0, name.find(' ')); }
 
@@ -225,7 +248,8 @@ ParsedOptions parseOptions(int argc, const char* const* argv) {
     std::cout << app.help();
     parsed.exitCode = 0;
   } catch (const CLI::ParseError& mistake) {
-    std::cerr << "quillmere-settings: " << mistake.what() << " (--help tells the options)\n";
+    std::cerr << "quillmere-settings: " << cli::visible(mistakeIn(app, mistake, namesOfOptions()))
+              << " (--help tells the options)\n";
     parsed.exitCode = 2;
   }
   return parsed;

@@ -63,6 +63,21 @@ TEST(OptionsTest, HelpTellsAllAlsoWhereOtherWordsAreNames) {
   for (const auto& words : asking) EXPECT_EQ(parse(words).out, all) << words[0];
 }
 
+TEST(OptionsTest, AMistakeIsNamedInWords) {
+  const std::pair<std::vector<std::string>, const char*> mistakes[] = {
+      {{"--port", "abc"}, "--port: takes 0 to 65535, and not \"abc\""},
+      {{"--port=99999"}, "--port: takes 0 to 65535, and not \"99999\""},
+      {{"--root", "a", "--root", "b"}, "--root is given twice"},
+      {{"--prt", "80"}, "there is no option \"--prt\"; did you mean \"--port\"?"},
+      {{"--rot=a\nb"}, "there is no option \"--rot\"; did you mean \"--root\"?"},
+      {{"fo\no"}, "there is no sub-command \"fo\\no\"; there are list, get"},
+  };
+  for (const auto& [arguments, words] : mistakes) {
+    EXPECT_TRUE(parse(arguments).err.starts_with(std::string("quillmere-settings: ") + words))
+        << parse(arguments).err;
+  }
+}
+
 TEST(OptionsTest, EveryMistakeIsOneLineOnStandardErrorAndExitCode2) {
   const std::vector<std::vector<std::string>> mistakes = {
       {"--port", "65536"},
