@@ -12,7 +12,7 @@ using UserCommands = SubCommands;
 
 constexpr const char* changed = "com.orvalen.quillmere.prefs-changed\n";
 
-TEST_F(UserCommands, GetTheNamesOfNotificationsInOrder) {
+TEST_F(UserCommands, GetTheNameOfEachNotification) {
   for (const char* size : {"80", "81"}) {
     said({"set", "clockDigitSize", size, "--notify-command", noting()});
   }

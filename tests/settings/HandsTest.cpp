@@ -28,5 +28,33 @@ TEST(HandsTest, WaitForTheCommandsOfEveryChange) {
   }
 }
 
+/// A list resource whose first row has a notification of its own.
+std::string resourceWithOwnNotification() {
+  std::string items =
+      "<dict><key>cell</key><string>PSSwitchCell</string><key>key</key><string>own</string>"
+      "<key>defaults</key><string>com.orvalen.quillmere</string>"
+      "<key>PostNotification</key><string>com.orvalen.own</string></dict>";
+  for (int row = 1; row < 11; ++row) {
+    items += "<dict><key>cell</key><string>PSStaticTextCell</string></dict>";
+  }
+  return "<plist><dict><key>items</key><array>" + items + "</array></dict></plist>";
+}
+
+TEST(HandsTest, TellTheUsersCommandOfNotificationsInOrder) {
+  const support::TemporaryFolder folder;
+  settings::Options options;
+  options.root = folder.path;
+  options.notifyCommand = "echo \"$1\" >> '" + (folder.path / "noted").string() + "'";
+  Hands hands(options);
+  std::ofstream(folder.path / "Library/PreferenceBundles/Quillmere.bundle/Root.plist")
+      << resourceWithOwnNotification();
+  hands.board().open("prefs:root=Quillmere");
+  const auto row = rowWithKey(hands, "own");
+  hands.change([&] { change(row, "on"); });
+  std::ifstream noted(folder.path / "noted");
+  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(noted), {}),
+            "com.orvalen.own\ncom.orvalen.quillmere.prefs-changed\n");
+}
+
 }  // namespace
 }  // namespace settings_tests
