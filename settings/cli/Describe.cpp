@@ -53,7 +53,7 @@ std::string textOf(const desktop::HexColor& color, bool alpha) {
 constexpr const char* bothPositions = "on, off";
 
 Description description(const desktop::SwitchBody* knob) {
-  return {"switch", knob->on, nullptr, bothPositions};
+  return {"switch", knob->on, masterDefault, bothPositions};
 }
 
 Description description(const desktop::SwitchCell* cell) {
@@ -80,11 +80,15 @@ Description description(const desktop::SliderCell* cell) {
 Description description(const desktop::SegmentCell* cell) {
   const desktop::SpecifierBody& row = rowOf(*cell);
   const platform::Object stored = desktop::perform(*row.target, row.get, cell->specifier());
-  return {"segment",
-          jsonOf(stored),
-          jsonOf(row.property("default")),
-          joined(cell->titles()),
-          {{"titles", cell->titles()}, {"values", jsonOf(row.values)}}};
+  Description about{"segment",
+                    jsonOf(stored),
+                    jsonOf(row.property("default")),
+                    "",
+                    {{"titles", cell->titles()}, {"values", jsonOf(row.values)}}};
+  std::vector<std::string> segments;
+  for (const json& value : about.bounds["values"]) segments.push_back(titled(about, value));
+  about.takes = joined(segments);
+  return about;
 }
 
 Description description(const desktop::ColorCell* cell) {
@@ -106,6 +110,7 @@ Description describe(const Control& control) {
 
 std::string plain(const json& value) {
   if (value.is_null()) return "";
+  if (value.is_array()) return joined(value.get<std::vector<std::string>>());
   if (value.is_boolean()) return value.get<bool>() ? "on" : "off";
   return value.is_string() ? value.get<std::string>() : value.dump();
 }

@@ -1,5 +1,6 @@
 #include "settings/cli/Get.h"
 
+#include "settings/cli/Hands.h"
 #include "settings/cli/Lotties.h"
 #include "settings/cli/Values.h"
 #include "settings/cli/Words.h"
@@ -8,9 +9,11 @@ namespace settings::cli {
 
 namespace {
 
-std::string lines(const std::vector<std::string>& names) {
+/// A line for each name of a list, one for any other value.
+std::string lines(const nlohmann::json& value) {
+  if (!value.is_array()) return visible(plain(value)) + '\n';
   std::string text;
-  for (const std::string& name : names) text += visible(name) + '\n';
+  for (const nlohmann::json& name : value) text += visible(plain(name)) + '\n';
   return text;
 }
 
@@ -18,12 +21,11 @@ std::string lines(const std::vector<std::string>& names) {
 
 std::string get(Hands& hands, const Request& request) {
   const std::string& key = request.arguments[0];
-  if (key == enabledLottiesKey) {
-    const auto names = enabledLotties(hands);
-    return request.json ? printed(names) : lines(names);
-  }
-  const nlohmann::json value = describe(rowWithKey(hands, key).control).value;
-  return request.json ? printed(value) : visible(plain(value)) + '\n';
+  const Description about =
+      key == enabledLottiesKey ? describeLotties(hands) : describe(rowWithKey(hands, key).control);
+  // Any other value can have come from the file alone.
+  if (about.value == about.otherwise) hands.tellOfUnreadable();
+  return request.json ? printed(about.value) : lines(about.value);
 }
 
 }  // namespace settings::cli

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "desktop/Foundation/PropertyListFile.h"
 #include "desktop/Preferences/SpecifierBody.h"
 #include "settings/Overlay.h"
 #include "settings/Touch.h"
@@ -13,6 +14,10 @@ namespace settings::cli {
 using Phase = desktop::SpringBoard::Phase;
 
 namespace {
+
+/// Where the add-on's settings are kept.
+constexpr const char* preferencesFile =
+    "/var/mobile/Library/Preferences/com.orvalen.quillmere.plist";
 
 std::string actionOf(const desktop::AnyCell& cell) {
   const auto* row = std::get_if<desktop::ActionCell>(&cell);
@@ -57,6 +62,15 @@ void Hands::answerAlert(bool confirmed) {
   const auto answer = std::ranges::find(actions, !confirmed, &cancels);
   if (answer == actions.end()) throw std::runtime_error("the page's question has no such answer");
   settings::answerAlert(pages(), *answer);
+}
+
+void Hands::tellOfUnreadable() const {
+  try {
+    readPropertyList(session_.phone.folder, preferencesFile);
+  } catch (const desktop::UnreadableFile& reason) {
+    session_.phone.report(std::string(preferencesFile) + " cannot be read (" + reason.what() +
+                          "): shown is what counts without it");
+  }
 }
 
 bool Hands::waitFor(const std::function<bool()>& person) {

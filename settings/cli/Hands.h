@@ -33,6 +33,9 @@ class Hands {
   /// Answers it with its Cancel, or with the other answer.
   void answerAlert(bool confirmed);
 
+  /// Says so if the preferences file cannot be read: the pages then show what counts without it.
+  void tellOfUnreadable() const;
+
   /// The person's answer; while they make up their mind, other programs may have the folder.
   bool waitFor(const std::function<bool()>& person);
 

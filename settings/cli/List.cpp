@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <vector>
 
+#include "desktop/UIKit/ControllerState.h"
 #include "settings/cli/Hands.h"
+#include "settings/cli/Lotties.h"
 #include "settings/cli/Values.h"
 #include "settings/cli/Words.h"
 
@@ -18,20 +20,46 @@ struct Line {
   std::string cells[4];
 };
 
-json nodeOf(const Row& row) {
-  const Description about = describe(row.control);
-  json node = {{"page", row.page},   {"key", row.key},       {"label", row.label},
-               {"kind", about.kind}, {"value", about.value}, {"default", about.otherwise}};
+struct Setting {
+  std::string page;
+  std::string key;
+  std::string label;
+  Description about;
+};
+
+/// All of them; that of the animations comes last, since its page is none of rows with values.
+std::vector<Setting> settingsOf(Hands& hands) {
+  std::vector<Setting> all;
+  visitRows(hands, [&](const Row& row) {
+    all.push_back({row.page, row.key, row.label, describe(row.control)});
+    return false;
+  });
+  const Description about = describeLotties(hands);
+  const std::string page = desktop::titleOf(*hands.pages().top().controller);
+  all.push_back({page, enabledLottiesKey, page, about});
+  return all;
+}
+
+json nodeOf(const Setting& setting) {
+  const Description& about = setting.about;
+  json node = {{"page", setting.page}, {"key", setting.key},   {"label", setting.label},
+               {"kind", about.kind},   {"value", about.value}, {"default", about.otherwise}};
   node.update(about.bounds);
   return node;
 }
 
-Line lineOf(const Row& row) {
-  const Description about = describe(row.control);
+/// A list may be too long for a line: how many names it has.
+std::string valueIn(const Description& about) {
+  if (!about.value.is_array()) return visible(titled(about, about.value));
+  return std::to_string(about.value.size()) + (about.value.size() == 1 ? " name" : " names");
+}
+
+Line lineOf(const Setting& setting) {
+  const Description& about = setting.about;
   const std::string otherwise = visible(titled(about, about.otherwise));
-  return {row.page,
-          {row.key, visible(titled(about, about.value)), about.takes,
-           otherwise.empty() ? "" : "default " + otherwise}};
+  return {
+      setting.page,
+      {setting.key, valueIn(about), about.takes, otherwise.empty() ? "" : "default " + otherwise}};
 }
 
 /// How many letters the text has: UTF-8 bytes that go on with a letter do not count.
@@ -67,11 +95,11 @@ std::string inWords(const std::vector<Line>& lines) {
 std::string list(Hands& hands, const Request& request) {
   json nodes = json::array();
   std::vector<Line> lines;
-  visitRows(hands, [&](const Row& row) {
-    nodes.push_back(nodeOf(row));
-    lines.push_back(lineOf(row));
-    return false;
-  });
+  for (const Setting& setting : settingsOf(hands)) {
+    nodes.push_back(nodeOf(setting));
+    lines.push_back(lineOf(setting));
+  }
+  hands.tellOfUnreadable();
   return request.json ? printed(nodes) : inWords(lines);
 }
 

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <charconv>
 
+#include "desktop/Foundation/ArrayBody.h"
 #include "desktop/Foundation/Values.h"
+#include "desktop/UIKit/ControllerState.h"
 #include "settings/Screen.h"
 #include "settings/cli/Hands.h"
 #include "settings/cli/Values.h"
@@ -79,24 +81,42 @@ std::string heading(TableBody& table, std::size_t section) {
   return text;
 }
 
+std::string inJson(TableBody& table) {
+  return printed(
+      {{"enabled", namesIn(table, enabledSection)}, {"disabled", namesIn(table, disabledSection)}});
+}
+
+/// What is enabled while nothing is stored, as the list on top knows it.
+nlohmann::json defaults(Hands& hands) {
+  const platform::Object names =
+      desktop::perform(*hands.pages().top().controller, "defaultViews", {});
+  nlohmann::json all = nlohmann::json::array();
+  const auto* list = desktop::bodyAs<desktop::ArrayBody>(names);
+  for (std::size_t i = 0; list && i < list->elements.size(); ++i) {
+    all.push_back(desktop::textOf(list->elements[i]));
+  }
+  return all;
+}
+
 }  // namespace
 
-std::vector<std::string> enabledLotties(Hands& hands) {
-  return namesIn(openList(hands), enabledSection);
+Description describeLotties(Hands& hands) {
+  TableBody& table = openList(hands);
+  return {"list", namesIn(table, enabledSection), defaults(hands), "lotties enable, disable, move"};
 }
 
 std::string listLotties(Hands& hands, const Request& request) {
   TableBody& table = openList(hands);
-  if (!request.json) return heading(table, enabledSection) + '\n' + heading(table, disabledSection);
-  return printed(
-      {{"enabled", namesIn(table, enabledSection)}, {"disabled", namesIn(table, disabledSection)}});
+  hands.tellOfUnreadable();
+  if (request.json) return inJson(table);
+  return heading(table, enabledSection) + '\n' + heading(table, disabledSection);
 }
 
 std::string enableLottie(Hands& hands, const Request& request) {
   TableBody& table = openList(hands);
   const NSIndexPath path = find(table, disabledSection, request.arguments[0]);
   hands.change([&] { table.tapControl(path); });
-  return "";
+  return request.json ? inJson(table) : "";
 }
 
 std::string disableLottie(Hands& hands, const Request& request) {
@@ -106,7 +126,7 @@ std::string disableLottie(Hands& hands, const Request& request) {
     table.tapControl(path);
     table.confirm();
   });
-  return "";
+  return request.json ? inJson(table) : "";
 }
 
 std::string moveLottie(Hands& hands, const Request& request) {
@@ -115,7 +135,7 @@ std::string moveLottie(Hands& hands, const Request& request) {
   const std::size_t count = table.sections()[enabledSection].rows;
   const std::size_t row = rowAt(request.arguments[1], count);
   hands.change([&] { table.drag(path, {enabledSection, row}); });
-  return "";
+  return request.json ? inJson(table) : "";
 }
 
 }  // namespace settings::cli

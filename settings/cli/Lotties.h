@@ -1,9 +1,9 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "settings/cli/SubCommand.h"
+#include "settings/cli/Values.h"
 
 namespace settings::cli {
 
@@ -11,11 +11,12 @@ namespace settings::cli {
 /// of animations is a page of its own.
 inline constexpr const char* enabledLottiesKey = "enabledLotties";
 
-/// The names of the enabled animations, in the user's order.
-std::vector<std::string> enabledLotties(Hands& hands);
+/// Opens the list of animations, and tells the names of the enabled ones, in the user's order.
+Description describeLotties(Hands& hands);
 
 /// @name What the list of animations is for, by what a finger would do to its rows. An animation
-/// whose name stands there twice is the first of that name.
+/// whose name stands there twice is the first of that name. What changes the list tells in JSON
+/// how it stands then, as `listLotties` does.
 /// @{
 std::string listLotties(Hands& hands, const Request& request);
 std::string enableLottie(Hands& hands, const Request& request);

@@ -5,6 +5,7 @@
 
 #include "desktop/Foundation/Values.h"
 #include "settings/cli/Hands.h"
+#include "settings/cli/Values.h"
 #include "settings/cli/Words.h"
 
 namespace settings::cli {
@@ -35,7 +36,7 @@ std::string reset(Hands& hands, const Request& request) {
   // What is not stored counts from here on only: the deletion to come makes good what clearing
   // cannot.
   hands.wait();
-  return "";
+  return request.json ? printed({{"reset", true}}) : "";
 }
 
 }  // namespace settings::cli

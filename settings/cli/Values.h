@@ -9,9 +9,9 @@ namespace settings::cli {
 
 /// What a control shows and offers.
 struct Description {
-  const char* kind;  ///< "switch", "slider", "segment" or "color".
+  const char* kind;  ///< "switch", "slider", "segment", "color" or "list".
   /// For a switch a boolean, for a slider a number, for a color its text, for a segment what is
-  /// stored.
+  /// stored, for a list its names.
   nlohmann::json value;
   /// What an absent value stands for; null when the row does not say.
   nlohmann::json otherwise;

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <fstream>
 #include <gmock/gmock.h>
+#include <map>
 
 #include "tests/support/program/SubCommands.h"
 
@@ -19,37 +20,47 @@ json rowIn(const json& rows, const std::string& key) {
 
 TEST_F(ListTest, ShowsEveryPageWithItsRowsInOrder) {
   EXPECT_EQ(said({"list"}),
-            "Quillmere\n"
-            "  enabledSwitch              on           on, off\n"
-            "\n"
-            "Clock\n"
-            "  clockEnabled               on           on, off                default on\n"
-            "  clockLoopAnimation         on           on, off                default on\n"
-            "  clockDigitSize             75           1 to 200               default 75\n"
-            "  clockVerticalAlignment     0            -100 to 100            default 0\n"
-            "  clockDigitsSpacing         -20          -100 to 100            default -20\n"
-            "  colonHeight                50           1 to 200               default 50\n"
-            "\n"
-            "Quick Actions\n"
-            "  flashEnabled               on           on, off                default on\n"
-            "  cameraEnabled              on           on, off                default on\n"
-            "  quickActionsLoopAnimation  on           on, off                default on\n"
-            "  quickActionsSize           75           1 to 200               default 75\n"
-            "\n"
-            "Color\n"
-            "  colorMode                  1 (Default)  Default, Custom Color  default 1 (Default)\n"
-            "  tintColor                  #f69240ff    #rrggbb or #rrggbbaa   default #f69240ff\n");
+            R"(Quillmere
+  enabledSwitch              on           on, off                        default on
+
+Clock
+  clockEnabled               on           on, off                        default on
+  clockLoopAnimation         on           on, off                        default on
+  clockDigitSize             75           1 to 200                       default 75
+  clockVerticalAlignment     0            -100 to 100                    default 0
+  clockDigitsSpacing         -20          -100 to 100                    default -20
+  colonHeight                50           1 to 200                       default 50
+
+Quick Actions
+  flashEnabled               on           on, off                        default on
+  cameraEnabled              on           on, off                        default on
+  quickActionsLoopAnimation  on           on, off                        default on
+  quickActionsSize           75           1 to 200                       default 75
+
+Color
+  colorMode                  1 (Default)  1 (Default), 2 (Custom Color)  default 1 (Default)
+  tintColor                  #f69240ff    #rrggbb or #rrggbbaa           default #f69240ff
+
+Lotties
+  enabledLotties             2 names      lotties enable, disable, move  default Clock, Nice Buttons
+)");
 }
 
 TEST_F(ListTest, TellsProgramsWhatEachRowOffers) {
   const json rows = saidJson({"list", "--json"});
-  EXPECT_EQ(rows.size(), 13U);
+  EXPECT_EQ(rows.size(), 14U);
   EXPECT_EQ(rows[0], json({{"page", "Quillmere"},
                            {"key", "enabledSwitch"},
                            {"label", "Quillmere"},
                            {"kind", "switch"},
                            {"value", true},
-                           {"default", nullptr}}));
+                           {"default", true}}));
+  EXPECT_EQ(rows.back(), json({{"page", "Lotties"},
+                               {"key", "enabledLotties"},
+                               {"label", "Lotties"},
+                               {"kind", "list"},
+                               {"value", {"Clock", "Nice Buttons"}},
+                               {"default", {"Clock", "Nice Buttons"}}}));
   EXPECT_EQ(rowIn(rows, "clockVerticalAlignment"), json({{"page", "Clock"},
                                                          {"key", "clockVerticalAlignment"},
                                                          {"label", "Vertical Alignment"},
@@ -84,6 +95,46 @@ TEST_F(ListTest, ShowsWhatIsStored) {
   EXPECT_NE(text.find("  enabledSwitch              off "), std::string::npos) << text;
   EXPECT_NE(text.find("  clockDigitSize             33.5 "), std::string::npos) << text;
   EXPECT_NE(text.find(" 2 (Custom Color) "), std::string::npos) << text;
+}
+
+TEST_F(ListTest, TellsOfALongListHowLongItIs) {
+  writePreferences(
+      "<plist><dict><key>enabledLotties</key><array><string>Rain</string></array></dict></plist>");
+  EXPECT_NE(said({"list"}).find("  enabledLotties             1 name   "), std::string::npos);
+  EXPECT_EQ(saidJson({"list", "--json"}).back()["value"], json({"Rain"}));
+}
+
+TEST_F(ListTest, KnowsEverySettingThatIsTold) {
+  for (const json& row : saidJson({"list", "--json"})) {
+    const std::string key = row["key"];
+    EXPECT_EQ(saidJson({"get", key, "--json"}), row["value"]) << key;
+    EXPECT_EQ(row["value"], row["default"]) << key;
+  }
+}
+
+TEST_F(ListTest, AndOthersSayThatTheFileCannotBeRead) {
+  const std::vector<std::vector<std::string>> readers = {{"list"},
+                                                         {"get", "clockDigitSize"},
+                                                         {"get", "colorMode"},
+                                                         {"get", "tintColor"},
+                                                         {"get", "enabledSwitch"},
+                                                         {"get", "enabledLotties"},
+                                                         {"lotties", "list"}};
+  std::map<std::vector<std::string>, std::string> withoutFile;
+  for (const auto& arguments : readers) withoutFile[arguments] = said(arguments);
+  for (const char* bytes : {"bad", "", "<plist><array/></plist>"}) {
+    writePreferences(bytes);
+    for (const auto& arguments : readers) {
+      const End end = at(arguments);
+      EXPECT_EQ(end.exitCode, 0);
+      EXPECT_TRUE(end.err.starts_with(
+          "quillmere-settings: /var/mobile/Library/Preferences/com.orvalen.quillmere.plist cannot "
+          "be read ("))
+          << arguments.back() << end.err;
+      EXPECT_EQ(std::ranges::count(end.err, '\n'), 1) << end.err;
+      EXPECT_EQ(end.out, withoutFile[arguments]);
+    }
+  }
 }
 
 TEST_F(GetTest, PrintsTheValueAlone) {

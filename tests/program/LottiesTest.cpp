@@ -36,6 +36,18 @@ TEST_F(LottiesTest, AreListedInJson) {
   EXPECT_EQ(lists.size(), 2U);
 }
 
+TEST_F(LottiesTest, AreListedInJsonOnceTheyWereChanged) {
+  for (const std::vector<std::string>& arguments :
+       std::initializer_list<std::vector<std::string>>{{"lotties", "enable", "Rain", "--json"},
+                                                       {"lotties", "move", "Rain", "3", "--json"},
+                                                       {"lotties", "disable", "Clock", "--json"}}) {
+    const json lists = saidJson(arguments);
+    EXPECT_EQ(lists["enabled"], enabled());
+    EXPECT_EQ(lists["enabled"].size() + lists["disabled"].size(), 5U);
+  }
+  EXPECT_EQ(enabled(), json({"Nice Buttons", "Rain"}));
+}
+
 TEST_F(LottiesTest, AreListedWhenNoneIsEnabled) {
   store("");
   EXPECT_EQ(enabled(), json::array());

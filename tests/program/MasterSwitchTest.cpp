@@ -61,6 +61,12 @@ TEST_F(ResetTest, WithoutSettingsIsDoneAsWell) {
   EXPECT_EQ(preferences(), std::nullopt);
 }
 
+TEST_F(ResetTest, SaysInJsonThatItIsDone) {
+  said({"set", "clockDigitSize", "80"});
+  EXPECT_EQ(saidJson({"reset", "--yes", "--json"}), nlohmann::json({{"reset", true}}));
+  EXPECT_EQ(preferences(), std::nullopt);
+}
+
 TEST_F(ResetTest, WithoutATerminalNeedsYes) {
   said({"set", "clockDigitSize", "80"});
   const auto before = preferences();

@@ -72,7 +72,8 @@ TEST_F(SetTest, TakesBothEndsOfARange) {
 TEST_F(SetTest, RefusesWhatTheRowDoesNotTake) {
   expectRefused({"set", "clockEnabled", "maybe"}, 2, "clockEnabled takes on, off, and not");
   expectRefused({"set", "enabledSwitch", "2"}, 2, "enabledSwitch takes on, off, and not");
-  expectRefused({"set", "colorMode", "3"}, 2, "colorMode takes Default, Custom Color, and not");
+  expectRefused({"set", "colorMode", "3"}, 2,
+                "colorMode takes 1 (Default), 2 (Custom Color), and not");
   for (const char* color : {"red", "#12345", "112233", "#gg0000", "#1122334455", "#-12345"}) {
     expectRefused({"set", "tintColor", color}, 2, "tintColor takes #rrggbb or #rrggbbaa, and not");
   }

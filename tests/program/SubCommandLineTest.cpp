@@ -52,23 +52,34 @@ TEST_F(SubCommandLine, RefusesWhatMakesNoSense) {
       {{"list", "--port", "0"}, "--port is for the page"},
       {{"--no-open", "list"}, "--no-open is for the page"},
       {{"list", "--yes"}, "--yes is not for list"},
-      {{"reset", "--yes", "--json"}, "--json is not for reset"},
-      {{"lotties", "enable", "Rain", "--json"}, "--json is not for lotties enable"},
+      {{"lotties", "enable", "Rain", "--yes"}, "--yes is not for lotties enable"},
       {{"reset", "--yes", "--respring"}, "--respring is not for reset"},
       {{"--json"}, "--json is not for the page"},
       {{"get"}, "KEY"},
       {{"get", "clockEnabled", "colorMode"}, "colorMode"},
       {{"set", "clockEnabled"}, "VALUE"},
-      {{"lotties"}, "required"},
+      {{"get", "clockEnabled", "colorMode"}, "\"colorMode\" is more than get takes"},
+      {{"lotties"}, "lotties needs one of list, enable, disable, move behind it"},
+      {{"lotties", "foo"}, "no sub-command \"lotties foo\"; there are list, enable, disable, move"},
+      {{"lotties", "enabel"}, "no sub-command \"lotties enabel\"; did you mean \"enable\"?"},
+      {{"lotties", "enable", "-dash"},
+       "NAME is required; what begins with \"-\" stands behind --, "
+       "as in -- -dash"},
       {{"lotties", "move", "Clock"}, "POSITION"},
       {{"list", "get", "clockEnabled"}, "get"},
-      {{"lst"}, "lst"},
+      {{"lst"}, "there is no sub-command \"lst\"; did you mean \"list\"?"},
+      {{"foo"}, "there is no sub-command \"foo\"; there are list, get, set, reset, lotties"},
+      {{"list", "--jsn"}, "there is no option \"--jsn\"; did you mean \"--json\"?"},
   };
   for (const auto& [arguments, words] : mistakes) {
     expectRefused(arguments, 2, words);
     EXPECT_EQ(std::ranges::count(at(arguments).err, '\n'), 1);
   }
   EXPECT_EQ(preferences(), std::nullopt);
+}
+
+TEST_F(SubCommandLine, TakesANameThatBeginsWithADashBehindTwo) {
+  expectRefused({"lotties", "enable", "--", "-dash"}, 2, "there is no animation \"-dash\"");
 }
 
 TEST_F(SubCommandLine, IsDoneAlsoWhenNobodyReads) {
