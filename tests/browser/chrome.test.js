@@ -118,17 +118,30 @@ scenario('after a reload, and in a later window, the rows stand where they stood
     assert.deepEqual(screen.touches.map(({ kind, y }) => [kind, y]), [['scroll', 130]]);
   });
 
-scenario('a reload in a window that is too tall to scroll brings the title back', small,
-  async (screen) => {
+scenario('after a reload in a window that is too tall to stand there, the page tells where it stands',
+  small, async (screen) => {
     await screen.page.locator('.content').evaluate((content) => (content.scrollTop = 130));
     await expectTitle(screen, 0, 1);
     await screen.page.goto('about:blank');
     await screen.page.setViewportSize({ width: 390, height: 2000 });
     await screen.page.goto(`${screen.home}/`);
     await ready(screen.page);
-    await expectTitle(screen, 1, 0);
-    assert.equal(await offset(screen.page), 0);
+    await eventually(async () => assert.ok(await offset(screen.page) > 60));
+    const y = await offset(screen.page);
+    assert.ok(y < 130);
+    await eventually(() => assert.deepEqual(screen.touches.map((touch) => touch.y), [130, y]));
   });
+
+for (const [width, height] of [[440, 880], [430, 932], [500, 2000], [1000, 940]]) {
+  scenario(`the icon takes the title’s place in a window of ${width} by ${height}, too`,
+    { look: { viewport: { width, height } } }, async (screen) => {
+      await screen.page.locator('.content').hover();
+      await screen.page.mouse.wheel(0, 2000);
+      await expectTitle(screen, 0, 1);
+      await screen.page.mouse.wheel(0, -2000);
+      await expectTitle(screen, 1, 0);
+    });
+}
 
 scenario('a page that is uncovered after a reload stands where it stood', small, async (screen) => {
   await screen.page.locator('.content').evaluate((content) => (content.scrollTop = 130));
@@ -177,5 +190,8 @@ scenario('a picture stands above the rows, and the icon fits into the bar', {},
     assert.ok(header.y + header.height <= first.y);
     const bar = await page.locator('.bar').boundingBox();
     const icon = await page.locator('.title-view img').boundingBox();
-    assert.ok(icon.y >= bar.y && icon.y + icon.height <= bar.y + bar.height);
+    assert.equal(icon.height, 30);
+    const middle = await page.locator('.bar .middle').boundingBox();
+    assert.ok(Math.abs(icon.y + icon.height / 2 - middle.y - middle.height / 2) < 1);
+    assert.ok(icon.y > bar.y && icon.y + icon.height < bar.y + bar.height);
   });

@@ -18,7 +18,7 @@ export function update(view, node) {
     width: node.mode === 'center' ? `${node.imageWidth}px` : '100%',
     height: node.mode === 'center' ? `${node.imageHeight}px` : '100%',
   });
-  for (const side of ['width', 'height']) {
+  for (const side of ['width', 'height', 'imageHeight']) {
     view.element.style.setProperty(`--${side}`, `${node[side]}px`);
   }
   fade(view.element, node);
