@@ -55,6 +55,24 @@ scenario('rows make way for the one in the hand', five, async (screen) => {
   await expectOrder(screen, 'Breeze', 'Aurora', 'Comet');
 });
 
+for (const colorScheme of ['light', 'dark']) {
+  scenario(`the row in the hand stands out from the others, ${colorScheme}`,
+    { ...five, look: { colorScheme } }, async (screen) => {
+      await screen.push('Lotties');
+      await take(screen, 'Aurora', rowHeight);
+      const looks = (locator) => locator.evaluate((row) => {
+        const { backgroundColor, boxShadow } = getComputedStyle(row);
+        return { backgroundColor, boxShadow };
+      });
+      const carried = await looks(screen.page.locator('.carried'));
+      const other = await looks(list(screen).section('Enabled').getByRole('listitem').last());
+      assert.notEqual(carried.boxShadow, other.boxShadow);
+      // A shadow is not seen on black.
+      if (colorScheme === 'dark') assert.notEqual(carried.backgroundColor, other.backgroundColor);
+      await screen.page.mouse.up();
+    });
+}
+
 scenario('a row that is dropped over the other section snaps back', five, async (screen) => {
   const before = screen.phone.bytes();
   await screen.push('Lotties');
