@@ -86,9 +86,13 @@ scenario('a short swipe lets the greeting come up again', { ios: '14.3', look: t
 
 scenario('the greeting has the keyboard and keeps it', { ios: '14.3' }, async (screen) => {
   const name = () => screen.page.evaluate(() => document.activeElement.innerText);
+  const ring = () => sheet(screen).getByRole('button')
+    .evaluate((button) => getComputedStyle(button).outlineStyle);
   await eventually(async () => assert.equal(await name(), 'Continue'));
+  assert.equal(await ring(), 'none', 'nobody has used the keyboard yet');
   await screen.page.keyboard.press('Tab');
   assert.equal(await name(), 'Continue');
+  assert.equal(await ring(), 'solid');
 });
 
 scenario('a phone that was greeted before is not greeted',

@@ -7,7 +7,8 @@ export function create(node, context) {
     title: element('h2', { id: `${id}-title` }),
     subtitle: element('p', { class: 'subtitle', id: `${id}-subtitle` }),
     points: element('ul', { class: 'points' }),
-    button: element('button', { type: 'button', class: 'continue' }),
+    // It has the keyboard at once, and shows that to those who use one.
+    button: element('button', { type: 'button', class: 'continue quiet' }),
     caption: element('p', { class: 'caption' }),
   };
   const sheet = element('dialog', {
@@ -19,6 +20,7 @@ export function create(node, context) {
   view.escape = () => context.touch({ kind: 'tap' }, view.node.dismiss);
   parts.button.addEventListener('click', () =>
     context.touch({ kind: 'tap' }, view.node.button.id));
+  sheet.addEventListener('keydown', () => parts.button.classList.remove('quiet'));
   swipeDown(sheet, view.escape);
   return view;
 }
