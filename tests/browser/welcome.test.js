@@ -24,7 +24,8 @@ scenario('a new phone is greeted with what there is to know', { ios: '14.3' }, a
   await sheet(screen).getByText('Animations for your Lockscreen').waitFor();
   assert.deepEqual(await sheet(screen).getByRole('heading', { level: 3 }).allInnerTexts(),
     ['Info', 'Lockscreen', 'Download']);
-  assert.deepEqual(await sheet(screen).getByRole('listitem').getByRole('paragraph').allInnerTexts(), [
+  const descriptions = sheet(screen).getByRole('listitem').getByRole('paragraph');
+  assert.deepEqual(await descriptions.allInnerTexts(), [
     'This tweak is an animation engine that can let you run Lottie animations with ease.',
     'Use Lottie animations to animate your Lockscreen elements.',
     'You can download and use millions of Lottie animation from your package manager or from '
