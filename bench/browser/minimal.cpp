@@ -1,6 +1,8 @@
 // The smallest server with a page that shows what it counts: `minimal FILE PAGE...` prints its
 // address, serves the pages by their names, and counts what comes over each WebSocket. A count is
-// durable as a setting is: FILE is replaced by its own bytes, synced, before it is told.
+// durable as a setting is: FILE is replaced by its own bytes, synced, before it is told. Below
+// "/apart" the same pages ask the browser for a process of their own, as a page must that shares
+// its host with other servers.
 #include <array>
 #include <boost/asio/co_spawn.hpp>
 #include <boost/asio/detached.hpp>
@@ -19,6 +21,7 @@
 #include <iterator>
 #include <map>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <unistd.h>
 
@@ -69,12 +72,17 @@ using Pages = std::map<std::string, std::string>;
 
 http::response<http::string_body> answer(const Pages& pages,
                                          const http::request<http::empty_body>& request) {
-  const auto page = pages.find(std::string(request.target()));
+  constexpr std::string_view apart = "/apart";
+  std::string_view target(request.target().data(), request.target().size());
+  const bool isApart = target.starts_with(apart);
+  if (isApart) target.remove_prefix(apart.size());
+  const auto page = pages.find(std::string(target));
   const bool isThere = page != pages.end();
   http::response<http::string_body> response(isThere ? http::status::ok : http::status::not_found,
                                              request.version());
   response.set(http::field::content_type, "text/html; charset=utf-8");
   response.set(http::field::cache_control, "no-store");
+  if (isApart) response.set("Cross-Origin-Opener-Policy", "same-origin");
   response.keep_alive(request.keep_alive());
   if (isThere) response.body() = page->second;
   response.prepare_payload();
