@@ -1,4 +1,3 @@
-import { setTimeout as pause } from 'node:timers/promises';
 import { installClock } from '../fixture/clock.js';
 import { quantile, report } from '../fixture/figures.js';
 import { Minimal } from '../fixture/minimal.js';
@@ -64,9 +63,9 @@ function finger(page, { control, at, arm, hurries = false }) {
     const share = at[turn++ % at.length];
     await found.evaluate(arm);
     if (!hurries) await page.waitForFunction(isAtRest);
-    // So that taps fall anywhere between two frames.
-    await pause(30 + Math.random() * 40);
-    await page.mouse.click(x + share * width, y + height / 2);
+    // As long as a finger stays on the glass, and so that it lifts anywhere between two frames.
+    const delay = 30 + Math.random() * 40;
+    await page.mouse.click(x + share * width, y + height / 2, { delay });
     const timed = await page.evaluate(() => clock.tapped);
     await found.dispose();
     return timed;
