@@ -47,6 +47,9 @@ CLI::Validator port() {
           ""};
 }
 
+// Its description would stand behind the value in the help.
+CLI::Validator scale() { return CLI::IsMember({"1", "2", "3"}).description(""); }
+
 /// The words of a command line, without the program's name.
 class Words {
  public:
@@ -69,80 +72,64 @@ class Words {
   std::span<const char* const> words_;
 };
 
-/// An option, whose name is handed back to the function that tells the parser of it.
+template <auto part>
+CLI::Option* addValue(CLI::App& app, const char* name, Options& options) {
+  return app.add_option(name, options.*part);
+}
+
+CLI::Option* addRoot(CLI::App& app, const char* name, Options& options) {
+  return app.add_option_function<std::string>(
+      name, [&](const std::string& folder) { options.root = folder; });
+}
+
+CLI::Option* addNoOpen(CLI::App& app, const char* name, Options& options) {
+  return app.add_flag_callback(name, [&] { options.open = false; });
+}
+
+/// An option that the parser can be told of.
 struct Known {
   const char* name;
-  void (*add)(CLI::App& app, const char* name, Options& options);
+  /// What stands for its value in the help; null when it takes none.
+  const char* value;
+  const char* meaning;
+  CLI::Option* (*add)(CLI::App& app, const char* name, Options& options);
+  /// What its value must be; null when anything will do.
+  CLI::Validator (*check)() = nullptr;
 };
 
 constexpr Known everyOption[] = {
-    {"--root",
-     [](CLI::App& app, const char* name, Options& options) {
-       app.add_option_function<std::string>(
-              name, [&](const std::string& folder) { options.root = folder; },
-              "The folder that stands in for the phone's file system\n"
-              "(default: quillmere/phone in your data folder)")
-           ->type_name("DIR")
-           ->check(something());
-     }},
-    {"--screen-scale",
-     [](CLI::App& app, const char* name, Options& options) {
-       app.add_option(name, options.screenScale,
-                      "How many pixels the phone's screen has to a point (default: 3)")
-           ->option_text("1|2|3")
-           ->check(CLI::IsMember({"1", "2", "3"}));
-     }},
-    {"--ios-version",
-     [](CLI::App& app, const char* name, Options& options) {
-       app.add_option(name, options.iosVersion,
-                      "The version of iOS that the phone says it has, such as 14.3\n"
-                      "(default: as its SystemVersion.plist has it). The build that stands\n"
-                      "there is of that version: for another one, tell --ios-build as well")
-           ->type_name("VERSION")
-           ->check(version());
-     }},
-    {"--ios-build",
-     [](CLI::App& app, const char* name, Options& options) {
-       app.add_option(name, options.iosBuild, "The build of it, such as 18C66")
-           ->type_name("BUILD")
-           ->check(something());
-     }},
-    {"--product-type",
-     [](CLI::App& app, const char* name, Options& options) {
-       app.add_option(name, options.productType,
-                      "The model that the phone says it is, such as iPhone12,1")
-           ->type_name("MODEL")
-           ->check(something());
-     }},
-    {"--respring-command",
-     [](CLI::App& app, const char* name, Options& options) {
-       app.add_option(name, options.respringCommand, "Run this by sh when the phone resprings")
-           ->type_name("COMMAND");
-     }},
-    {"--notify-command",
-     [](CLI::App& app, const char* name, Options& options) {
-       app.add_option(name, options.notifyCommand,
-                      "Run this by sh for every Darwin notification; its name is $1")
-           ->type_name("COMMAND");
-     }},
-    {"--mail-command",
-     [](CLI::App& app, const char* name, Options& options) {
-       app.add_option(name, options.mailCommand,
-                      "Run this by sh for every mail sent; the message is its standard input")
-           ->type_name("COMMAND");
-     }},
-    {"--port",
-     [](CLI::App& app, const char* name, Options& options) {
-       app.add_option(name, options.port, "The port to listen on; 0, the default, takes a free one")
-           ->type_name("N")
-           ->check(port());
-     }},
-    {"--no-open",
-     [](CLI::App& app, const char* name, Options& options) {
-       app.add_flag_callback(
-           name, [&] { options.open = false; }, "Do not open a browser");
-     }},
+    {"--root", "DIR",
+     "The folder that stands in for the phone's file system\n"
+     "(default: quillmere/phone in your data folder)",
+     &addRoot, &something},
+    {"--screen-scale", "1|2|3", "How many pixels the phone's screen has to a point (default: 3)",
+     &addValue<&Options::screenScale>, &scale},
+    {"--ios-version", "VERSION",
+     "The version of iOS that the phone says it has, such as 14.3\n"
+     "(default: as its SystemVersion.plist has it). The build that stands\n"
+     "there is of that version: for another one, tell --ios-build as well",
+     &addValue<&Options::iosVersion>, &version},
+    {"--ios-build", "BUILD", "The build of it, such as 18C66", &addValue<&Options::iosBuild>,
+     &something},
+    {"--product-type", "MODEL", "The model that the phone says it is, such as iPhone12,1",
+     &addValue<&Options::productType>, &something},
+    {"--respring-command", "COMMAND", "Run this by sh when the phone resprings",
+     &addValue<&Options::respringCommand>},
+    {"--notify-command", "COMMAND", "Run this by sh for every Darwin notification; its name is $1",
+     &addValue<&Options::notifyCommand>},
+    {"--mail-command", "COMMAND",
+     "Run this by sh for every mail sent; the message is its standard input",
+     &addValue<&Options::mailCommand>},
+    {"--port", "N", "The port to listen on; 0, the default, takes a free one",
+     &addValue<&Options::port>, &port},
+    {"--no-open", nullptr, "Do not open a browser", &addNoOpen},
 };
+
+void add(CLI::App& app, const Known& known, Options& options) {
+  CLI::Option& option = *known.add(app, known.name, options)->description(known.meaning);
+  if (known.value) option.type_name(known.value);
+  if (known.check) option.check(known.check());
+}
 
 CLI::App* addGroup(CLI::App& app, const std::string& name) {
   CLI::App* group =
@@ -221,7 +208,7 @@ void addAll(CLI::App& app, const Words& words, Options& options) {
   app.fallthrough();
   app.require_subcommand(0, 1);
   for (const Known& option : everyOption) {
-    if (words.name(option.name)) option.add(app, option.name, options);
+    if (words.name(option.name)) add(app, option, options);
   }
   for (const SubCommand& command : cli::subCommands()) {
     if (words.name(firstWord(command.name))) addSubCommand(app, command, options);
