@@ -5,6 +5,7 @@
 #include "desktop/Preferences/SpecifierBody.h"
 #include "desktop/UIKit/ControllerState.h"
 #include "platform/Preferences/PSListController.h"
+#include "prefs/Quillmere.h"
 #include "settings/cli/Values.h"
 #include "settings/cli/Words.h"
 
@@ -53,7 +54,7 @@ std::string textOf(const desktop::HexColor& color, bool alpha) {
 constexpr const char* bothPositions = "on, off";
 
 Description description(const desktop::SwitchBody* knob) {
-  return {"switch", knob->on, masterDefault, bothPositions};
+  return {"switch", knob->on, quillmere::settings::enabledSwitch.defaultValue, bothPositions};
 }
 
 Description description(const desktop::SwitchCell* cell) {

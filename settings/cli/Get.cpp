@@ -1,5 +1,6 @@
 #include "settings/cli/Get.h"
 
+#include "prefs/Quillmere.h"
 #include "settings/cli/Hands.h"
 #include "settings/cli/Lotties.h"
 #include "settings/cli/Values.h"
@@ -21,8 +22,9 @@ std::string lines(const nlohmann::json& value) {
 
 std::string get(Hands& hands, const Request& request) {
   const std::string& key = request.arguments[0];
-  const Description about =
-      key == enabledLottiesKey ? describeLotties(hands) : describe(rowWithKey(hands, key).control);
+  const Description about = key == quillmere::enabledLottiesKey
+                                ? describeLotties(hands)
+                                : describe(rowWithKey(hands, key).control);
   // Any other value can have come from the file alone.
   if (about.value == about.otherwise) hands.tellOfUnreadable();
   return request.json ? printed(about.value) : lines(about.value);

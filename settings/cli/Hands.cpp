@@ -5,19 +5,17 @@
 
 #include "desktop/Foundation/PropertyListFile.h"
 #include "desktop/Preferences/SpecifierBody.h"
+#include "prefs/Quillmere.h"
 #include "settings/Overlay.h"
 #include "settings/Touch.h"
 #include "settings/cli/Words.h"
 
 namespace settings::cli {
 
+using quillmere::preferencesFile;
 using Phase = desktop::SpringBoard::Phase;
 
 namespace {
-
-/// Where the add-on's settings are kept.
-constexpr const char* preferencesFile =
-    "/var/mobile/Library/Preferences/com.orvalen.quillmere.plist";
 
 std::string actionOf(const desktop::AnyCell& cell) {
   const auto* row = std::get_if<desktop::ActionCell>(&cell);

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "desktop/UIKit/ControllerState.h"
+#include "prefs/Quillmere.h"
 #include "settings/cli/Hands.h"
 #include "settings/cli/Lotties.h"
 #include "settings/cli/Values.h"
@@ -36,7 +37,7 @@ std::vector<Setting> settingsOf(Hands& hands) {
   });
   const Description about = describeLotties(hands);
   const std::string page = desktop::titleOf(*hands.pages().top().controller);
-  all.push_back({page, enabledLottiesKey, page, about});
+  all.push_back({page, quillmere::enabledLottiesKey, page, about});
   return all;
 }
 

@@ -7,10 +7,6 @@
 
 namespace settings::cli {
 
-/// The key under which the names of the enabled animations are stored. No row has it: the list
-/// of animations is a page of its own.
-inline constexpr const char* enabledLottiesKey = "enabledLotties";
-
 /// Opens the list of animations, and tells the names of the enabled ones, in the user's order.
 Description describeLotties(Hands& hands);
 

@@ -5,9 +5,9 @@
 
 #include "desktop/Preferences/SpecifierBody.h"
 #include "desktop/UIKit/ControllerState.h"
+#include "prefs/Quillmere.h"
 #include "settings/Screen.h"
 #include "settings/cli/Hands.h"
-#include "settings/cli/Lotties.h"
 #include "settings/cli/SubCommand.h"
 #include "settings/cli/Words.h"
 
@@ -38,7 +38,7 @@ std::vector<Row> rowsOnTop(Hands& hands) {
   const std::string title = desktop::titleOf(*page.controller);
   std::vector<Row> rows;
   if (auto* knob = Screen(hands.board()).barSwitch()) {
-    rows.push_back({title, masterKey, title, knob});
+    rows.push_back({title, quillmere::settings::enabledSwitch.key, title, knob});
   }
   for (desktop::Section& section : page.sections) {
     for (AnyCell& cell : section.cells) {
@@ -91,7 +91,8 @@ Row rowWithKey(Hands& hands, const std::string& key) {
     return found.has_value();
   });
   if (found) return *found;
-  keys.emplace_back(enabledLottiesKey);
+  // The list of animations is a page of its own.
+  keys.emplace_back(quillmere::enabledLottiesKey);
   throw UsageError("there is no setting \"" + key + '"' +
                    suggestion(key, keys, "; there are " + joined(keys)));
 }

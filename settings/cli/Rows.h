@@ -26,11 +26,6 @@ struct Row {
   bool enabled = true;
 };
 
-/// The key of the add-on's master switch, which no row has: it is the one in the bar.
-inline constexpr const char* masterKey = "enabledSwitch";
-/// What it shows while nothing is stored.
-inline constexpr bool masterDefault = true;
-
 /// Opens every page that a row of the first one leads to, in order, and hands over all values; goes
 /// no further once `visit` answers true, so that the row's page is on top then.
 void visitRows(Hands& hands, const std::function<bool(const Row&)>& visit);

@@ -3,22 +3,25 @@
 #include <iostream>
 
 #include "desktop/Foundation/Values.h"
+#include "prefs/Quillmere.h"
 #include "settings/cli/Hands.h"
-#include "settings/cli/Lotties.h"
 #include "settings/cli/Values.h"
 
 namespace settings::cli {
+
+using quillmere::settings::enabledSwitch;
 
 namespace {
 
 /// Throws `UsageError` for what the request cannot mean.
 void check(const Request& request) {
   const std::string& key = request.arguments[0];
-  if (key == enabledLottiesKey) {
+  if (key == quillmere::enabledLottiesKey) {
     throw UsageError(key + " is changed by lotties enable, disable and move");
   }
-  if (request.respring && key != masterKey) {
-    throw UsageError(std::string("--respring goes with ") + masterKey + ", and not with " + key);
+  if (request.respring && key != enabledSwitch.key) {
+    throw UsageError(std::string("--respring goes with ") + enabledSwitch.key + ", and not with " +
+                     key);
   }
 }
 
@@ -41,7 +44,7 @@ std::string set(Hands& hands, const Request& request) {
     change(row, request.arguments[1]);
     // The control does not outlive a respring.
     value = describe(row.control).value;
-    if (row.key == masterKey) answerPrompt(hands, request.respring);
+    if (row.key == enabledSwitch.key) answerPrompt(hands, request.respring);
   });
   return request.json ? printed(value) : "";
 }
