@@ -12,19 +12,33 @@ namespace {
 
 using settings::cli::Hands;
 
-TEST(HandsTest, WaitForTheCommandsOfEveryChange) {
+class HandsTest : public testing::Test {
+ protected:
+  /// Whoever works a phone whose notifications run the command: what that prints is noted.
+  Hands handsThatRun(const std::string& command) const {
+    settings::Options options;
+    options.root = folder.path;
+    options.notifyCommand = "{ " + command + "; } >> '" + notes.string() + "'";
+    return Hands(options);
+  }
+
+  std::string noted() const {
+    std::ifstream file(notes);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+
   const support::TemporaryFolder folder;
-  settings::Options options;
-  options.root = folder.path;
-  options.notifyCommand = "sleep 0.1; echo run >> '" + (folder.path / "noted").string() + "'";
-  Hands hands(options);
+  const std::filesystem::path notes = folder.path / "noted";
+};
+
+TEST_F(HandsTest, WaitForTheCommandsOfEveryChange) {
+  Hands hands = handsThatRun("sleep 0.1; echo run");
   const auto row = rowWithKey(hands, "clockDigitSize");
   std::string expected;
   for (const char* size : {"80", "81", "82"}) {
     hands.change([&] { change(row, size); });
     expected += "run\n";
-    std::ifstream noted(folder.path / "noted");
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(noted), {}), expected) << size;
+    EXPECT_EQ(noted(), expected) << size;
   }
 }
 
@@ -40,20 +54,14 @@ std::string resourceWithOwnNotification() {
   return "<plist><dict><key>items</key><array>" + items + "</array></dict></plist>";
 }
 
-TEST(HandsTest, TellTheUsersCommandOfNotificationsInOrder) {
-  const support::TemporaryFolder folder;
-  settings::Options options;
-  options.root = folder.path;
-  options.notifyCommand = "echo \"$1\" >> '" + (folder.path / "noted").string() + "'";
-  Hands hands(options);
+TEST_F(HandsTest, TellTheUsersCommandOfNotificationsInOrder) {
+  Hands hands = handsThatRun("echo \"$1\"");
   std::ofstream(folder.path / "Library/PreferenceBundles/Quillmere.bundle/Root.plist")
       << resourceWithOwnNotification();
   hands.board().open("prefs:root=Quillmere");
   const auto row = rowWithKey(hands, "own");
   hands.change([&] { change(row, "on"); });
-  std::ifstream noted(folder.path / "noted");
-  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(noted), {}),
-            "com.orvalen.own\ncom.orvalen.quillmere.prefs-changed\n");
+  EXPECT_EQ(noted(), "com.orvalen.own\ncom.orvalen.quillmere.prefs-changed\n");
 }
 
 }  // namespace
