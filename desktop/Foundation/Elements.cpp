@@ -30,6 +30,7 @@ bool isEqual(const Element& element, const std::optional<std::string_view>& text
 
 /// Objects that are looked for by equality: texts at once, however many there are.
 class Sought {
+  // Ahead of those who call it, who have to know what `auto` is.
   auto isEqualTo(std::string_view text) const {
     return [this, text](std::uint32_t position) { return texts_[position] == text; };
   }

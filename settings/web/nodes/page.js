@@ -14,7 +14,7 @@ export function create(_, context) {
   const bar = element('header', { class: 'bar' }, leading, middle, trailing);
   const page = element('div', { class: 'page' }, bar, content, covers);
   const view = { element: page, title, content, children: [], scrolled: 0, left: null,
-                 offset: null };
+                 offset: null, told: null };
   Object.assign(view, { places: { titleView, back: leading, trailing, header }, list, covers });
   watch(view, context);
   return Object.assign(view, {
