@@ -1,5 +1,8 @@
 #include "desktop/Foundation/ValueBody.h"
 
+#include <new>
+#include <utility>
+
 #include "desktop/Journal.h"
 
 namespace desktop {
@@ -30,7 +33,33 @@ bool sameNumber(const plist::Value& left, const plist::Value& right) {
   return rightInteger ? real == static_cast<double>(*rightInteger) : real == *right.real();
 }
 
+/// Memory that waits to be used again.
+struct Spare {
+  Spare* next;
+};
+static_assert(sizeof(Spare) <= sizeof(ValueBody));
+
+#ifdef QUILLMERE_SANITIZED
+constexpr std::size_t mostSpares = 0;  // What is used after it went is to be found.
+#else
+constexpr std::size_t mostSpares = 16;
+#endif
+Spare* firstSpare = nullptr;
+std::size_t spares = 0;
+
 }  // namespace
+
+void* ValueBody::operator new(std::size_t size) {
+  if (spares == 0) return ::operator new(size);
+  --spares;
+  return std::exchange(firstSpare, firstSpare->next);
+}
+
+void ValueBody::operator delete(void* place) {
+  if (spares == mostSpares) return ::operator delete(place);
+  ++spares;
+  firstSpare = new (place) Spare{firstSpare};
+}
 
 std::string_view ValueBody::className() const {
   switch (value.type()) {

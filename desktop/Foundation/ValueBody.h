@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+
 #include "desktop/Body.h"
 #include "plist/Value.h"
 
@@ -15,6 +17,11 @@ class ValueBody final : public Body {
   std::string debugDescription() const override;
   /// Numbers, booleans among them, compare by value; all else exactly.
   bool isEqual(const Body& other) const override;
+
+  /// Whoever goes through a long list makes and lets go of one of these for each element: the
+  /// memory that some leave is kept for the next.
+  static void* operator new(std::size_t size);
+  static void operator delete(void* place);
 
   const plist::Value value;
 };
