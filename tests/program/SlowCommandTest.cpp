@@ -39,6 +39,7 @@ TEST_F(SlowCommand, CostsNoChangeHoweverFewFilesMayBeOpen) {
     ASSERT_EQ(socket.message()["nodes"][slider]["value"], size) << "change " << change;
     ASSERT_EQ(stored("clockDigitSize"), plist::Value::real(static_cast<float>(size)))
         << "change " << change;
+    program.hear();
   }
   program.signal(SIGTERM);
   const End end = program.end();

@@ -150,6 +150,11 @@ std::string Program::openFile(int number) const {
 
 void Program::signal(int number) const { kill(process_, number); }
 
+void Program::hear() {
+  while (readSome(0)) {
+  }
+}
+
 End Program::end() {
   const auto until = std::chrono::steady_clock::now() + patience;
   int status = 0;
@@ -158,8 +163,7 @@ End Program::end() {
     if (!readSome(10)) std::this_thread::sleep_for(std::chrono::milliseconds(10));
   }
   process_ = -1;
-  while (readSome(0)) {
-  }
+  hear();
   return {WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status), texts_[0], texts_[1]};
 }
 

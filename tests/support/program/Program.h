@@ -56,6 +56,8 @@ class Program {
   /// By which the system knows it, in /proc for one (proc(5)).
   pid_t process() const { return process_; }
   void signal(int number) const;
+  /// Reads what it has printed so far, so that there is room for more.
+  void hear();
   /// Waits for the end, 30 seconds at most; then it is killed.
   End end();
 
